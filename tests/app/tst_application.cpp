@@ -156,7 +156,6 @@ void tst_Application::readAllFiles()
     QCOMPARE(Application::readAllFiles(p, {"*.css"}), expected);
     QCOMPARE(Application::readAllFiles(p, {"*.css", "*.txt"}),
              QStringLiteral("A{}\nB{}\nC\nQLabel { font-family: \"Шрифт\"; }\n"));
-    QCOMPARE(Application::readAllFiles(p, {"*.qss"}), QString());
     QCOMPARE(Application::readAllFiles(QString(), {"*.css"}), QString());
     QCOMPARE(Application::readAllFiles(p + "/missing", {"*.css"}), QString());
 }
