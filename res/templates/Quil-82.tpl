@@ -1,0 +1,1643 @@
+{
+    "comment": "Анализатор растворенного кислорода Quil-82 с оптическими датчиками, архивом и журналом градуировок",
+    "device": {
+        "address": 2,
+        "enabled": true,
+        "modbus_id": "Quil-82",
+        "name": "Quil-82",
+        "polling_period": 1000,
+        "priority": 10,
+        "protocol": "MODBUS_RTU",
+        "tags": [
+            {
+                "access": "ReadWrite",
+                "address": "000h",
+                "byte_timeout": 0,
+                "comment": "Скорость обмена по интерфейсу RS-485",
+                "config_group": [
+                    "Interface",
+                    "Конфигурация интерфейса"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    7
+                ],
+                "name": "baudrate",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "value": 3,
+                "values": {
+                    "0": "1200 бит/с",
+                    "1": "2400 бит/с",
+                    "2": "4800 бит/с",
+                    "3": "9600 бит/с",
+                    "4": "19200 бит/с",
+                    "5": "38400 бит/с",
+                    "6": "57600 бит/с",
+                    "7": "115200 бит/с"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "001h",
+                "byte_timeout": 0,
+                "comment": "Контроль четности",
+                "config_group": [
+                    "Interface",
+                    "Конфигурация интерфейса"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "parity",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "value": 0,
+                "values": {
+                    "0": "выключен",
+                    "1": "выключен",
+                    "2": "по четности",
+                    "3": "по нечетности"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "002h",
+                "byte_timeout": 0,
+                "comment": "Адрес прибора в сети Modbus",
+                "config_group": [
+                    "Interface",
+                    "Конфигурация интерфейса"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    1,
+                    247
+                ],
+                "name": "address",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "int16",
+                "value": 2,
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "003h",
+                "byte_timeout": 0,
+                "comment": "Протокол обмена",
+                "config_group": [
+                    "Interface",
+                    "Конфигурация интерфейса"
+                ],
+                "device_type": "int16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "protocol",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "int16",
+                "value": 0,
+                "values": {
+                    "0": "Modbus RTU",
+                    "1": "Modbus ASCII"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "004h",
+                "byte_timeout": 0,
+                "comment": "Символ конца кадра Modbus ASCII",
+                "config_group": [
+                    "Interface",
+                    "Конфигурация интерфейса"
+                ],
+                "device_type": "int16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "delimiter",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "int16",
+                "value": 10,
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "008h",
+                "byte_timeout": 0,
+                "comment": "Режим индикации на экране прибора",
+                "config_group": [
+                    "VisualOutput",
+                    "Индикация"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "measure_mode",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "Канал 1",
+                    "1": "Канал 2",
+                    "2": "Каналы 1 и 2"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "009h",
+                "byte_timeout": 0,
+                "comment": "Звуковая сигнализация",
+                "config_group": [
+                    "SoundOutput",
+                    "Звуковая сигнализация"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "signal_by_sound",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "выключена",
+                    "1": "при срабатывании реле",
+                    "2": "при ошибке",
+                    "3": "при срабатывании реле и при ошибке"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "010h",
+                "byte_timeout": 0,
+                "comment": "Удержание выходов на время обслуживания",
+                "config_group": [
+                    "Control",
+                    "Управление"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "hold",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "выключено",
+                    "1": "включено"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "011h",
+                "byte_timeout": 0,
+                "comment": "Автоматическое снятие удержания выходов через, мин (0 - не снимать)",
+                "config_group": [
+                    "Control",
+                    "Управление"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    120
+                ],
+                "name": "hold_time",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "012h",
+                "byte_timeout": 0,
+                "comment": "Время подсветки индикатора после нажатия кнопки, с (0 - постоянно)",
+                "config_group": [
+                    "VisualOutput",
+                    "Индикация"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "backlight_time",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "WriteOnly",
+                "address": "018h",
+                "byte_timeout": 0,
+                "comment": "Восстановление заводских настроек (запись 1)",
+                "config_group": [
+                    "Control",
+                    "Управление"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "restore_default",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 0,
+                "request_delay": 70,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "020h",
+                "byte_timeout": 0,
+                "comment": "Датчик кислорода (канал 1)",
+                "config_group": [
+                    "Sensor",
+                    "Датчик 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "sensor_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "не подключен",
+                    "1": "подключен, токовый сигнал (4...20) мА"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "023h",
+                "byte_timeout": 0,
+                "comment": "Единицы измерения (канал 1)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "units_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "мкг/л",
+                    "1": "мг/л"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "022h",
+                "byte_timeout": 0,
+                "comment": "Положение десятичной точки при индикации (канал 1)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "decimal_point_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "0",
+                    "1": "0.0",
+                    "2": "0.00",
+                    "3": "0.000"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "021h",
+                "byte_timeout": 0,
+                "comment": "Время усреднения результата, с (канал 1)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    1,
+                    255
+                ],
+                "name": "average_time_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "02Ah",
+                "byte_timeout": 0,
+                "comment": "Солесодержание пробы для поправки, г/л (канал 1)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50
+                ],
+                "name": "salinity_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "032h",
+                "byte_timeout": 0,
+                "comment": "Концентрация кислорода при токе датчика 20 мА, мкг/л (канал 1)",
+                "config_group": [
+                    "Sensor",
+                    "Датчик 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    1,
+                    50000
+                ],
+                "name": "range_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "02Eh",
+                "byte_timeout": 0,
+                "comment": "Смещение нуля, мкг/л (канал 1)",
+                "config_group": [
+                    "Calibration",
+                    "Градуировка, канал 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -1000,
+                    1000
+                ],
+                "name": "calibr_zero_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "030h",
+                "byte_timeout": 0,
+                "comment": "Крутизна характеристики, % (канал 1)",
+                "config_group": [
+                    "Calibration",
+                    "Градуировка, канал 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    50,
+                    150
+                ],
+                "name": "calibr_slope_1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "060h",
+                "byte_timeout": 0,
+                "comment": "Датчик кислорода (канал 2)",
+                "config_group": [
+                    "Sensor",
+                    "Датчик 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "sensor_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "не подключен",
+                    "1": "подключен, токовый сигнал (4...20) мА"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "063h",
+                "byte_timeout": 0,
+                "comment": "Единицы измерения (канал 2)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    1
+                ],
+                "name": "units_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "мкг/л",
+                    "1": "мг/л"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "062h",
+                "byte_timeout": 0,
+                "comment": "Положение десятичной точки при индикации (канал 2)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "decimal_point_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "0",
+                    "1": "0.0",
+                    "2": "0.00",
+                    "3": "0.000"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "061h",
+                "byte_timeout": 0,
+                "comment": "Время усреднения результата, с (канал 2)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    1,
+                    255
+                ],
+                "name": "average_time_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "06Ah",
+                "byte_timeout": 0,
+                "comment": "Солесодержание пробы для поправки, г/л (канал 2)",
+                "config_group": [
+                    "AnalogInput",
+                    "Вход 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50
+                ],
+                "name": "salinity_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "072h",
+                "byte_timeout": 0,
+                "comment": "Концентрация кислорода при токе датчика 20 мА, мкг/л (канал 2)",
+                "config_group": [
+                    "Sensor",
+                    "Датчик 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    1,
+                    50000
+                ],
+                "name": "range_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "06Eh",
+                "byte_timeout": 0,
+                "comment": "Смещение нуля, мкг/л (канал 2)",
+                "config_group": [
+                    "Calibration",
+                    "Градуировка, канал 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -1000,
+                    1000
+                ],
+                "name": "calibr_zero_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "070h",
+                "byte_timeout": 0,
+                "comment": "Крутизна характеристики, % (канал 2)",
+                "config_group": [
+                    "Calibration",
+                    "Градуировка, канал 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    50,
+                    150
+                ],
+                "name": "calibr_slope_2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "100h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: функция",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "relay1_function",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "выключено",
+                    "1": "включение при превышении уставки",
+                    "2": "включение при понижении уставки"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "101h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: контролируемый параметр",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    4
+                ],
+                "name": "relay1_binding",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "Канал 1: кислород",
+                    "1": "Канал 2: кислород",
+                    "2": "Канал 1: температура",
+                    "3": "Канал 2: температура",
+                    "4": "Ошибка прибора"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "102h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: задержка включения, с",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "relay1_on_delay",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "103h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: задержка выключения, с",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "relay1_off_delay",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "104h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: уставка",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "relay1_setpoint",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "106h",
+                "byte_timeout": 0,
+                "comment": "Реле 1: гистерезис",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50000
+                ],
+                "name": "relay1_hysteresis",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "108h",
+                "byte_timeout": 0,
+                "comment": "Реле 2: функция",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "relay2_function",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "выключено",
+                    "1": "включение при превышении уставки",
+                    "2": "включение при понижении уставки"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "109h",
+                "byte_timeout": 0,
+                "comment": "Реле 2: контролируемый параметр",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    4
+                ],
+                "name": "relay2_binding",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "Канал 1: кислород",
+                    "1": "Канал 2: кислород",
+                    "2": "Канал 1: температура",
+                    "3": "Канал 2: температура",
+                    "4": "Ошибка прибора"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "10Ah",
+                "byte_timeout": 0,
+                "comment": "Реле 2: задержка включения, с",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "relay2_on_delay",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "10Bh",
+                "byte_timeout": 0,
+                "comment": "Реле 2: задержка выключения, с",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    255
+                ],
+                "name": "relay2_off_delay",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "10Ch",
+                "byte_timeout": 0,
+                "comment": "Реле 2: уставка",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "relay2_setpoint",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "10Eh",
+                "byte_timeout": 0,
+                "comment": "Реле 2: гистерезис",
+                "config_group": [
+                    "DigitalOut",
+                    "Реле 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50000
+                ],
+                "name": "relay2_hysteresis",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "150h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 1: диапазон",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "current_output1_diap",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "(0...5) мА",
+                    "1": "(0...20) мА",
+                    "2": "(4...20) мА"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "151h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 1: параметр",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "current_output1_binding",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "Канал 1: кислород",
+                    "1": "Канал 2: кислород",
+                    "2": "Канал 1: температура",
+                    "3": "Канал 2: температура"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "152h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 1: значение параметра в начале диапазона",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "current_output1_min_ip",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "154h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 1: значение параметра в конце диапазона",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "current_output1_max_ip",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "160h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 1: состояние при удержании",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 1"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "current_output1_hold_state",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "не удерживается",
+                    "1": "последнее значение",
+                    "2": "фиксированное значение"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "158h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 2: диапазон",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "current_output2_diap",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "(0...5) мА",
+                    "1": "(0...20) мА",
+                    "2": "(4...20) мА"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "159h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 2: параметр",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "current_output2_binding",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "Канал 1: кислород",
+                    "1": "Канал 2: кислород",
+                    "2": "Канал 1: температура",
+                    "3": "Канал 2: температура"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "15Ah",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 2: значение параметра в начале диапазона",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "current_output2_min_ip",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "15Ch",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 2: значение параметра в конце диапазона",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    50000
+                ],
+                "name": "current_output2_max_ip",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 16
+            },
+            {
+                "access": "ReadWrite",
+                "address": "164h",
+                "byte_timeout": 0,
+                "comment": "Токовый выход 2: состояние при удержании",
+                "config_group": [
+                    "AnalogOut",
+                    "Токовый выход 2"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    2
+                ],
+                "name": "current_output2_hold_state",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 3,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "values": {
+                    "0": "не удерживается",
+                    "1": "последнее значение",
+                    "2": "фиксированное значение"
+                },
+                "write_func": 16
+            },
+            {
+                "access": "ReadOnly",
+                "address": "200h",
+                "byte_timeout": 0,
+                "comment": "Канал 1: кислород (единицы по настройке)",
+                "config_group": [
+                    "Channel",
+                    "Канал 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50000
+                ],
+                "name": "ch1_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "202h",
+                "byte_timeout": 0,
+                "comment": "Канал 1: температура, °C",
+                "config_group": [
+                    "Channel",
+                    "Канал 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    200
+                ],
+                "name": "ch1_T_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "204h",
+                "byte_timeout": 0,
+                "comment": "Канал 1: ток датчика, мА",
+                "config_group": [
+                    "Channel",
+                    "Канал 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    24
+                ],
+                "name": "ch1_I_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "206h",
+                "byte_timeout": 0,
+                "comment": "Канал 2: кислород (единицы по настройке)",
+                "config_group": [
+                    "Channel",
+                    "Канал 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    50000
+                ],
+                "name": "ch2_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "208h",
+                "byte_timeout": 0,
+                "comment": "Канал 2: температура, °C",
+                "config_group": [
+                    "Channel",
+                    "Канал 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    -50,
+                    200
+                ],
+                "name": "ch2_T_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "20Ah",
+                "byte_timeout": 0,
+                "comment": "Канал 2: ток датчика, мА",
+                "config_group": [
+                    "Channel",
+                    "Канал 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    24
+                ],
+                "name": "ch2_I_value",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "20Ch",
+                "byte_timeout": 0,
+                "comment": "Ток на токовом выходе 1, мА",
+                "config_group": [
+                    "Channel",
+                    "Токовый выход 1"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    24
+                ],
+                "name": "ch_current_output1",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "20Eh",
+                "byte_timeout": 0,
+                "comment": "Ток на токовом выходе 2, мА",
+                "config_group": [
+                    "Channel",
+                    "Токовый выход 2"
+                ],
+                "device_type": "float32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    24
+                ],
+                "name": "ch_current_output2",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "float32",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "210h",
+                "byte_timeout": 0,
+                "comment": "Слово ошибок прибора (битовая маска)",
+                "config_group": [
+                    "Channel",
+                    "Состояние"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    65535
+                ],
+                "name": "error",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "211h",
+                "byte_timeout": 0,
+                "comment": "Состояние реле (битовая маска)",
+                "config_group": [
+                    "Channel",
+                    "Состояние"
+                ],
+                "device_type": "uint16",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    3
+                ],
+                "name": "rele_outputs",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint16",
+                "write_func": 0
+            },
+            {
+                "access": "ReadOnly",
+                "address": "214h",
+                "byte_timeout": 0,
+                "comment": "Время наработки прибора, с",
+                "config_group": [
+                    "Service",
+                    "Сервис"
+                ],
+                "device_type": "uint32",
+                "enabled": true,
+                "level_group": 0,
+                "limits": [
+                    0,
+                    4294967295
+                ],
+                "name": "device_operating_time",
+                "polling_period": 1000,
+                "priority": 10,
+                "read_func": 4,
+                "request_delay": 1,
+                "response_timeout": 0,
+                "server_type": "uint32",
+                "write_func": 0
+            }
+        ],
+        "template": "Quil-82"
+    },
+    "id": "Quil-82",
+    "name": "Quil-82",
+    "producer": "Vexlor Works",
+    "version": "20210729103000"
+}
