@@ -297,7 +297,7 @@
                 "request_delay": 70,
                 "response_timeout": 0,
                 "server_type": "uint16",
-                "write_func": 16
+                "write_func": 6
             },
             {
                 "access": "ReadWrite",
