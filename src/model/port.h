@@ -1,0 +1,95 @@
+#ifndef PORT_H
+#define PORT_H
+
+#include "model/serveritem.h"
+
+#include <QChar>
+#include <QSemaphore>
+#include <QStringList>
+
+class Device;
+class Server;
+typedef struct _modbus modbus_t;
+
+// A line on which devices sit: a serial port, or a Modbus TCP endpoint that
+// can be configured but never opened.
+class Port : public ServerItem
+{
+    Q_OBJECT
+public:
+    enum PortType { MODBUS_RTU = 0, MODBUS_TCP = 1 };
+    enum ProtocolType { ProtocolRTU = 0, ProtocolASCII = 1 };
+
+    explicit Port(Server *server);
+    ~Port() override;
+
+    // ServerItem
+    QList<Tag *> tags() const override;
+    QList<Tag *> activeTags() const override;
+    QString fullName() const override { return name(); }
+    QIcon icon() const override { return QIcon(); }
+    bool load(const QVariantMap &map) override;
+    QVariantMap save() const override;
+    int type() const override { return ItemPort; }
+    ServerItem *createChild() override;
+
+    Server *server() const;
+
+    static QString portTypeToString(int type);
+    static int portTypeFromString(const QString &text);
+    static int baudrateIndexOf(int baud);
+    static int parityIndexOf(QChar parity);
+    static const QList<int> &baudrates();
+
+    int portType() const { return property("port_type").toInt(); }
+    void setPortType(int type) { setProperty("port_type", type); }
+    int pollingPeriod() const { return property("polling_period").toInt(); }
+    QString serialName() const { return property("serial_name").toString(); }
+    bool setSerialName(const QString &name);
+    bool checkUniqSerialName(const QString &name) const;
+    int baudrate() const { return property("baudrate").toInt(); }
+    void setBaudrate(int baud) { setProperty("baudrate", baud); }
+    int baudrateIndex(int baud = -1) const;
+    void setBaudrateByIndex(int index);
+    QChar parity() const;
+    void setParity(QChar parity) { setProperty("parity", QString(parity)); }
+    int parityIndex(QChar parity = QLatin1Char(' ')) const;
+    void setParityByIndex(int index);
+    int dataBits() const { return property("databits").toInt(); }
+    void setDatabits(int bits) { setProperty("databits", bits); }
+    int stopBits() const { return property("stopbits").toInt(); }
+    void setStopbits(int bits) { setProperty("stopbits", bits); }
+    int protocolType() const { return property("protocol_type").toInt(); }
+    void setProtocolType(int type) { setProperty("protocol_type", type); }
+    int asciiDelimiter() const { return property("ascii_delimiter").toInt(); }
+    void setASCIIDelimiter(int delimiter) { setProperty("ascii_delimiter", delimiter); }
+    QString ipAddress() const { return property("ip_address").toString(); }
+    bool clearQueueIfTimeout() const { return property("clear_queue_if_timeout").toBool(); }
+    bool clearPort() const { return property("clear_port").toBool(); }
+    QString configName() const;
+
+    // Devices.
+    Device *addDevice(const QString &name, int index = -1);
+    void removeDevice(const QString &name);
+    Device *device(const QString &name) const;
+    Device *device(int address) const;
+    QStringList deviceIds() const;
+    QList<Device *> devices() const;
+    QList<Device *> connectionDevices() const;
+    bool hasConnectionDevices() const { return !connectionDevices().isEmpty(); }
+    bool hasArchivatedDevices() const;
+    bool hasDevicesWithProblemTags() const;
+
+    // Transport.
+    bool isOpened() const { return m_ctx != nullptr; }
+    modbus_t *modbusContext() const { return m_ctx; }
+    bool open();
+    void close();
+    QSemaphore *portLock() { return &m_portLock; }
+
+private:
+    modbus_t *m_ctx = nullptr;
+    QSemaphore m_portLock;
+};
+
+#endif // PORT_H

@@ -1,0 +1,1 @@
+{"id": "Broken", "name": "Broken", "device": {"name": "x", "tags": [{"name": "a", "address": "01

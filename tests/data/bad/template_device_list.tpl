@@ -1,0 +1,1 @@
+{"id": "ListDevice", "name": "ListDevice", "device": [1, 2, 3]}

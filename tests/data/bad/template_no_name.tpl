@@ -1,0 +1,1 @@
+{"id": "NoName", "device": {}}

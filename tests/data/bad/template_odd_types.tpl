@@ -1,0 +1,1 @@
+{"id": 5, "name": ["x"], "device": {"name": "d", "tags": [1, null, {"name": "ok", "address": "002h"}, {"name": {"a": 1}}]}}

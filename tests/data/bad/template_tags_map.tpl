@@ -1,0 +1,1 @@
+{"id": "MapTags", "name": "MapTags", "device": {"name": "dev", "tags": {"a": {"name": "a"}}}}
