@@ -1,11 +1,47 @@
-#include <QApplication>
-#include <QMainWindow>
+#include "app/application.h"
+#include "app/debugqt.h"
+#include "app/sighandler.h"
+#include "config/appsettings.h"
 
+#include <QMainWindow>
+#include <QRect>
+#include <QScreen>
+
+// Singletons come up in dependency order and go down in the reverse one; the
+// log channel is first up so that everything after it can report.
 int main(int argc, char *argv[])
 {
-    QApplication app(argc, argv);
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("regdesk"));
-    window.show();
-    return app.exec();
+    DebugQt::instance(DebugQt::StartFlags, nullptr)->setEmitMessages(true);
+    install_sig_handlers();
+
+    // Settings are read before the application object exists.
+    AppSettings *settings = AppSettings::instance();
+    settings->load();
+
+    auto *app = new Application(argc, argv);
+    Application::loadTranslations(QStringLiteral(":/lang"));
+
+    // TODO(traffic log): ModbusLogger::instance() goes here.
+
+    // Placeholder until the main window exists.
+    auto *window = new QMainWindow;
+    window->setWindowTitle(QStringLiteral("regdesk"));
+
+    if (settings->isApplyCss())
+        app->loadCss();
+
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        const QRect available = screen->availableGeometry();
+        window->move((available.width() - window->width()) / 2,
+                     (available.height() - window->height()) / 2);
+    }
+    window->show();
+    const int code = app->exec();
+
+    delete window;
+    AppSettings::release();
+    // TODO(traffic log): delete the ModbusLogger here.
+    delete DebugQt::instance();
+    delete app;
+    return code;
 }
