@@ -25,7 +25,7 @@ constexpr uint kAllLevels = DebugQt::Error | DebugQt::Warning | DebugQt::Info | 
 } // namespace
 
 // Logs through the real macro, as every class of the program does.
-class Server : public QObject
+class Logger : public QObject
 {
     Q_OBJECT
 public:
@@ -281,15 +281,15 @@ void tst_DebugQt::realMacroLine()
 {
     m_debug->setFlags(DebugQt::Error | DebugQt::Info | DebugQt::ShowLevel | DebugQt::ShowFileLine
                       | DebugQt::ShowFunction | DebugQt::ShowClass | DebugQt::ShowText);
-    Server server;
+    Logger logger;
     int line = 0;
     {
         StderrCapture capture;
-        line = server.load();
+        line = logger.load();
         const QString out = QString::fromUtf8(capture.take());
         const QString expected
             = QStringLiteral(
-                  "info: ../tests/app/tst_debugqt.cpp[%1] Server::load() : emit loaded()\n")
+                  "info: ../tests/app/tst_debugqt.cpp[%1] Logger::load() : emit loaded()\n")
                   .arg(line);
         QCOMPARE(out, expected);
     }
@@ -306,7 +306,7 @@ void tst_DebugQt::realMacroLine()
     m_debug->setFlags(DebugQt::Error | DebugQt::ShowText);
     {
         StderrCapture capture;
-        server.load();
+        logger.load();
         QCOMPARE(capture.take(), QByteArray());
     }
     QCOMPARE(m_spy->count(), 2);
