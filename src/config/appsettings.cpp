@@ -189,7 +189,9 @@ void AppSettings::applyAppMap(const QVariantMap &constApp)
     m_insertComments = app[QStringLiteral("insert_comments")].toBool();
     m_applyCss = app[QStringLiteral("apply_css")].toBool();
     m_autosaveDefault = app[QStringLiteral("autosave_default")].toBool();
-    m_font.fromString(app[QStringLiteral("font")].toString());
+    const QString font = app[QStringLiteral("font")].toString();
+    if (!font.isEmpty())
+        m_font.fromString(font);
     m_updateStatByTimer = app[QStringLiteral("update_stat_by_timer")].toBool();
     m_updateStatTimer = QTime::fromString(app[QStringLiteral("update_stat_timer")].toString(),
                                           QLatin1String(TimeFormat));

@@ -30,7 +30,7 @@ bool Channel::isChannelError() const
 
 QVariant Channel::readChannel()
 {
-    return m_tag ? m_tag->value() : QVariant();
+    return m_tag ? m_tag->read() : QVariant();
 }
 
 void Channel::onTagValueChanged(const QVariant &value)

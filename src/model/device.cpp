@@ -3,7 +3,11 @@
 #include "app/debugqt.h"
 #include "exchange/channel.h"
 #include "model/port.h"
+#include "config/utils.h"
 #include "model/tag.h"
+
+#include <QElapsedTimer>
+#include <QTime>
 
 namespace {
 
@@ -628,4 +632,242 @@ QVariantMap Device::save() const
         tagList.append(tag->save());
     map.insert(QStringLiteral("tags"), tagList);
     return map;
+}
+
+void Device::checkAndSetPortTimeouts()
+{
+    Port *p = port();
+    if (!p)
+        return;
+    if (responceTimeout() > 0 && responceTimeout() != p->responseTimeout())
+        p->setResponseTimeout(responceTimeout());
+    if (byteTimeout() > 0 && byteTimeout() != p->byteTimeout())
+        p->setByteTimeout(byteTimeout());
+}
+
+void Device::checkOffDevice()
+{
+    m_deviceId = 0;
+    m_identification[0].clear(); // reply text
+    m_identification[1].clear(); // short identification
+    m_identification[2].clear(); // firmware number
+}
+
+void Device::copyLineSettingsFrom(const Port *p)
+{
+    setProtocolType(p->protocolType());
+    setAsciiDelimiter(p->asciiDelimiter());
+    m_portSettings = SerialPortSettings(p->serialName(), p->baudrate(),
+                                        SerialPortProtocol(p->dataBits(), p->parity(), p->stopBits()));
+}
+
+bool Device::openPortForCheck(Port *p, int baudIndex, int parityIndex, int protocol, int delimiter)
+{
+    if (p->isOpened()) {
+        const bool differs = (baudIndex != -1 && baudIndex != p->baudrateIndex())
+                             || (parityIndex != -1 && parityIndex != p->parityIndex())
+                             || (protocol != -1 && protocol != p->protocolType())
+                             || (delimiter != -1 && delimiter != p->asciiDelimiter());
+        if (differs)
+            p->close();
+    }
+    if (!p->isOpened()) {
+        if (baudIndex != -1)
+            p->setBaudrateByIndex(baudIndex);
+        if (parityIndex != -1)
+            p->setParityByIndex(parityIndex);
+        if (protocol != -1)
+            p->setProtocolType(protocol);
+        if (delimiter != -1)
+            p->setASCIIDelimiter(delimiter);
+        if (!p->open())
+            return false;
+    }
+    copyLineSettingsFrom(p);
+    checkAndSetPortTimeouts();
+    return true;
+}
+
+bool Device::openPortForExchange(Port *p)
+{
+    // A device that was never checked has no line settings of its own yet: it
+    // works with its port's, rather than pushing empty ones onto the line.
+    if (m_portSettings.name.isEmpty())
+        copyLineSettingsFrom(p);
+    if (p->isOpened()) {
+        const bool differs = !m_portSettings.equalsTo(p) || protocolType() != p->protocolType()
+                             || asciiDelimiter() != p->asciiDelimiter();
+        if (differs)
+            p->close();
+    }
+    if (p->isOpened())
+        return true;
+    p->setProtocolType(protocolType());
+    p->setASCIIDelimiter(asciiDelimiter());
+    p->setBaudrate(m_portSettings.baudRate);
+    p->setParity(m_portSettings.protocol.parity);
+    p->setDatabits(m_portSettings.protocol.dataBits);
+    p->setStopbits(m_portSettings.protocol.stopBits);
+    if (!p->open())
+        return false;
+    checkAndSetPortTimeouts();
+    return true;
+}
+
+bool Device::openPort(int baudIndex, int parityIndex, int protocol, int delimiter)
+{
+    Port *p = port();
+    if (!p)
+        return false;
+    const bool anyGiven = baudIndex != -1 || parityIndex != -1 || protocol != -1 || delimiter != -1;
+    const bool ok = (m_deviceId == 0 && anyGiven)
+                        ? openPortForCheck(p, baudIndex, parityIndex, protocol, delimiter)
+                        : openPortForExchange(p);
+    if (ok)
+        return true;
+    setErrorString(p->errorString());
+    LOG_INFO << QStringLiteral("error open port '%1' - %2").arg(p->serialName(), errorString());
+    updateState(ResultPortError);
+    if (m_deviceId != 0)
+        checkOffDevice();
+    sendModbusMessage(errorString());
+    return false;
+}
+
+void Device::pauseAfterExchange()
+{
+    mySleep(requestTimeout() > 0 ? requestTimeout() : getDelayByBaudrate());
+}
+
+QString Device::exchangeLabel(const QString &name) const
+{
+    QString label = name;
+    return label.remove(QLatin1Char('/'));
+}
+
+static QString hexAddress(int addr)
+{
+    return QStringLiteral("%1").arg(addr, 2, 16, QLatin1Char('0')).toUpper();
+}
+
+int Device::read(const QString &name, int addr, int func, int lengthInBytes, QByteArray &out)
+{
+    Port *p = port();
+    if (!p)
+        return ResultConfigError;
+    p->portLock()->acquire();
+    int state;
+    if (!openPort()) {
+        // A failed connect leaves the port's state as it was: never report that as success.
+        state = p->lastResult() == ResultGood ? int(ResultPortError) : p->lastResult();
+        setErrorString(p->errorString());
+    } else {
+        m_processingTime = 0;
+        QElapsedTimer timer;
+        timer.start();
+        sendModbusMessage(QStringLiteral("reading %1 (0x%2h)...").arg(name, hexAddress(addr)));
+        const bool cached = isUseCash() && !m_readCache.isEmpty()
+                            && m_readCache.value(QStringLiteral("time")).toTime().msecsTo(QTime::currentTime())
+                                   < m_cashTimeout
+                            && m_readCache.value(QStringLiteral("read_func")).toInt() == func
+                            && m_readCache.value(QStringLiteral("reg_addr")).toInt() == addr
+                            && m_readCache.value(QStringLiteral("length")).toInt() == lengthInBytes;
+        if (cached) {
+            out = m_readCache.value(QStringLiteral("buffer")).toByteArray();
+            sendModbusMessage(QStringLiteral("%1 (*CASH*): %2")
+                                  .arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz")),
+                                       byteBufferToString(out)));
+            sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(timer.elapsed()));
+            setErrorString(QString());
+            updateState(ResultGood);
+            p->portLock()->release();
+            return ResultGood;
+        }
+        QString rx;
+        QString tx;
+        const QString label = exchangeLabel(name);
+        if (lengthInBytes == 1)
+            p->read_bits(label, address(), addr, func, out, rx, tx);
+        else
+            p->read_registers(label, address(), addr, func, lengthInBytes, out, rx, tx, byteSwappingEnabled());
+        m_processingTime = int(timer.elapsed());
+        if (p->lastResult() == ResultGood && isUseCash()) {
+            m_readCache = {{QStringLiteral("time"), QTime::currentTime()},
+                           {QStringLiteral("reg_addr"), addr},
+                           {QStringLiteral("read_func"), func},
+                           {QStringLiteral("length"), lengthInBytes},
+                           {QStringLiteral("buffer"), out}};
+        }
+        if (!tx.isEmpty())
+            sendModbusMessage(tx);
+        if (!rx.isEmpty())
+            sendModbusMessage(rx);
+        state = p->lastResult();
+        setErrorString(p->errorString());
+        updateState(state);
+    }
+    if (state == ResultGood) {
+        sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(m_processingTime));
+    } else {
+        const QString text = QStringLiteral("error %1 reading '%2' - %3 (%4ms)")
+                                 .arg(state)
+                                 .arg(name, errorString())
+                                 .arg(m_processingTime);
+        LOG_INFO << text;
+        sendModbusMessage(text);
+        if (isClosePortIfError())
+            p->close();
+    }
+    pauseAfterExchange();
+    p->portLock()->release();
+    return state;
+}
+
+int Device::write(const QString &name, int addr, int func, int lengthInBytes, const QByteArray &data)
+{
+    Port *p = port();
+    if (!p)
+        return ResultConfigError;
+    p->portLock()->acquire();
+    int state;
+    if (!openPort()) {
+        // A failed connect leaves the port's state as it was: never report that as success.
+        state = p->lastResult() == ResultGood ? int(ResultPortError) : p->lastResult();
+        setErrorString(p->errorString());
+    } else {
+        m_processingTime = 0;
+        QElapsedTimer timer;
+        timer.start();
+        sendModbusMessage(QStringLiteral("writing %1 (0x%2h)...").arg(name, hexAddress(addr)));
+        QString rx;
+        QString tx;
+        const QString label = exchangeLabel(name);
+        if (lengthInBytes == 1)
+            p->write_bits(label, address(), addr, func, data, rx, tx);
+        else
+            p->write_registers(label, address(), addr, func, data, rx, tx, byteSwappingEnabled());
+        m_processingTime = int(timer.elapsed());
+        if (!tx.isEmpty())
+            sendModbusMessage(tx);
+        if (!rx.isEmpty())
+            sendModbusMessage(rx);
+        state = p->lastResult();
+        setErrorString(p->errorString());
+        updateState(state);
+    }
+    if (state == ResultGood) {
+        sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(m_processingTime));
+    } else {
+        const QString text = QStringLiteral("error %1 writing '%2' - %3 (%4ms)")
+                                 .arg(state)
+                                 .arg(name, errorString())
+                                 .arg(m_processingTime);
+        LOG_INFO << text;
+        sendModbusMessage(text);
+        if (isClosePortIfError())
+            p->close();
+    }
+    pauseAfterExchange();
+    p->portLock()->release();
+    return state;
 }

@@ -178,6 +178,13 @@ public:
     bool getExceptionalAnswerText(const QByteArray &answer, int function, QString &text) const;
     int getDelayByBaudrate() const;
 
+    // Exchanges: each takes the port lock for the exchange and the pause after it.
+    bool openPort(int baudIndex = -1, int parityIndex = -1, int protocol = -1, int delimiter = -1);
+    int read(const QString &name, int addr, int func, int lengthInBytes, QByteArray &out);
+    int write(const QString &name, int addr, int func, int lengthInBytes, const QByteArray &data);
+    void checkAndSetPortTimeouts();
+    void checkOffDevice();
+
     void sendModbusMessage(const QString &text);
 
 signals:
@@ -188,6 +195,12 @@ signals:
     void modbusErrorMessage(int address, const QString &text);
 
 private:
+    bool openPortForCheck(Port *port, int baudIndex, int parityIndex, int protocol, int delimiter);
+    bool openPortForExchange(Port *port);
+    void copyLineSettingsFrom(const Port *port);
+    void pauseAfterExchange();
+    QString exchangeLabel(const QString &name) const;
+
     QVariantMap snapshot() const;
     void restoreFrom(const QVariantMap &snapshot);
     void readSettings(const QVariantMap &map);
@@ -210,6 +223,7 @@ private:
     QStringList m_queuedChannels;
     int m_cashTimeout = 70;
     int m_processingTime = 0;
+    QVariantMap m_readCache; // the one entry of the read cache
     QVariantMap m_measureInfo;
     QVariantMap m_defaultWidgetConfiguration;
 };

@@ -1,12 +1,19 @@
 #include "model/port.h"
 
 #include "app/debugqt.h"
+#include "config/utils.h"
+#include "exchange/byteswapper.h"
+#include "exchange/modbuslogger.h"
 #include "model/device.h"
 #include "model/server.h"
 #include "model/tag.h"
 #include "modbus/modbus.h"
 
+#include <QDateTime>
 #include <QFileInfo>
+
+#include <cstring>
+#include <vector>
 
 #include <cerrno>
 
@@ -359,6 +366,17 @@ bool Port::open()
     LOG_INFO << QStringLiteral("port '%1', opened").arg(fullName());
     setErrorString(QString());
     updateState(ResultGood);
+    modbus_set_rx_dbg_handler(m_ctx, ModbusLogger::logRx);
+    modbus_set_tx_dbg_handler(m_ctx, ModbusLogger::logTx);
+    if (protocolType() == ProtocolRTU) {
+        setResponseTimeout(200);
+        setByteTimeout(100);
+    } else {
+        setResponseTimeout(500);
+        setByteTimeout(300);
+    }
+    LOG_INFO << "responseTimeOut- " << responseTimeout();
+    LOG_INFO << "byteTimeout- " << byteTimeout();
     return true;
 }
 
@@ -371,4 +389,288 @@ void Port::close()
     modbus_close(m_ctx);
     modbus_free(m_ctx);
     m_ctx = nullptr;
+}
+
+void Port::flush()
+{
+    if (m_ctx)
+        modbus_flush(m_ctx);
+}
+
+static timeval toTimeval(int ms)
+{
+    timeval tv{};
+    tv.tv_sec = ms / 1000;
+    tv.tv_usec = (ms % 1000) * 1000;
+    return tv;
+}
+
+// Whole seconds drop the fraction: 1500 reads back as 1000, which only costs a repeated set.
+static int fromTimeval(const timeval &tv)
+{
+    return tv.tv_sec > 0 ? int(tv.tv_sec * 1000) : int(tv.tv_usec / 1000);
+}
+
+void Port::setResponseTimeout(int ms)
+{
+    if (!m_ctx)
+        return;
+    const timeval tv = toTimeval(ms);
+    modbus_set_response_timeout(m_ctx, &tv);
+}
+
+void Port::setByteTimeout(int ms)
+{
+    if (!m_ctx)
+        return;
+    const timeval tv = toTimeval(ms);
+    modbus_set_byte_timeout(m_ctx, &tv);
+}
+
+int Port::responseTimeout() const
+{
+    timeval tv{};
+    if (!m_ctx || modbus_get_response_timeout(m_ctx, &tv) != 0)
+        return 0;
+    return fromTimeval(tv);
+}
+
+int Port::byteTimeout() const
+{
+    timeval tv{};
+    if (!m_ctx || modbus_get_byte_timeout(m_ctx, &tv) != 0)
+        return 0;
+    return fromTimeval(tv);
+}
+
+void Port::setNotOpenedError()
+{
+    setErrorString(QStringLiteral("port '%1' is not opened").arg(serialName()));
+}
+
+// The common head of the four data exchanges: slave, label and clean records.
+bool Port::prepareExchange(const QString &name, int slave, bool clearLine, QString &rx, QString &tx)
+{
+    errno = 0;
+    if (clearLine && clearPort())
+        flush();
+    if (modbus_set_slave(m_ctx, slave) == -1) {
+        errorProcessing(errno, rx, tx);
+        return false;
+    }
+    modbus_set_dbg_context(m_ctx, name.toLocal8Bit().constData());
+    modbus_clear_txrx_bufs(m_ctx);
+    return true;
+}
+
+bool Port::read_registers(const QString &name, int slave, int addr, int func, int lengthInBytes,
+                          QByteArray &out, QString &rx, QString &tx, bool swap)
+{
+    if (!m_ctx) {
+        setNotOpenedError();
+        return false;
+    }
+    out.clear();
+    if (!prepareExchange(name, slave, true, rx, tx))
+        return false;
+    out.resize(qMax(0, lengthInBytes));
+    const int count = int(out.size() / 2);
+    std::vector<uint16_t> words(size_t(qMax(count, 1)), 0);
+    const int rc = func == 4 ? modbus_read_input_registers(m_ctx, addr, count, words.data())
+                             : modbus_read_registers(m_ctx, addr, count, words.data());
+    int code = 0;
+    if (rc == count) {
+        std::memcpy(out.data(), words.data(), size_t(count) * 2);
+        if (swap)
+            out = ByteSwapper::swap_byteorder(ByteSwapper::swap_byteorder(out, 2), int(out.size()));
+    } else {
+        code = errno;
+        if (rc == -1 && code == 0) {
+            errorProcessing(EIO, rx, tx);
+            return false;
+        }
+        if (code == EMBBADCRC) {
+            // The one place where the read side recovers by itself.
+            modbus_flush(m_ctx);
+            mySleep(30);
+        }
+    }
+    errorProcessing(code, rx, tx);
+    return code == 0;
+}
+
+bool Port::write_registers(const QString &name, int slave, int addr, int func, const QByteArray &data,
+                           QString &rx, QString &tx, bool swap)
+{
+    if (!m_ctx) {
+        setNotOpenedError();
+        return false;
+    }
+    if (!prepareExchange(name, slave, true, rx, tx))
+        return false;
+    QByteArray buffer = data;
+    if (swap)
+        buffer = ByteSwapper::swap_byteorder(ByteSwapper::swap_byteorder(buffer, int(buffer.size())), 2);
+    const int count = int(buffer.size() / 2);
+    std::vector<uint16_t> words(size_t(qMax(count, 1)), 0);
+    std::memcpy(words.data(), buffer.constData(), size_t(count) * 2);
+    int rc;
+    int expected;
+    if (func == 6) {
+        // Only the first register reaches the device with function 6.
+        expected = 1;
+        rc = modbus_write_register(m_ctx, addr, words.at(0));
+    } else {
+        expected = count;
+        rc = modbus_write_registers(m_ctx, addr, count, words.data());
+    }
+    int code = 0;
+    if (rc != expected) {
+        code = errno;
+        if (rc == -1 && code == 0)
+            code = EIO;
+    }
+    errorProcessing(code, rx, tx);
+    return code == 0;
+}
+
+bool Port::read_bits(const QString &name, int slave, int addr, int func, QByteArray &out, QString &rx,
+                     QString &tx)
+{
+    if (!m_ctx) {
+        setNotOpenedError();
+        return false;
+    }
+    out.clear();
+    if (!prepareExchange(name, slave, true, rx, tx))
+        return false;
+    out.resize(1);
+    uint8_t bit = 0;
+    const int rc = func == 1 ? modbus_read_bits(m_ctx, addr, 1, &bit)
+                             : modbus_read_input_bits(m_ctx, addr, 1, &bit);
+    int code = 0;
+    if (rc == 1) {
+        out[0] = char(bit);
+    } else {
+        code = errno;
+        if (rc == -1 && code == 0) {
+            errorProcessing(EIO, rx, tx);
+            return false;
+        }
+    }
+    errorProcessing(code, rx, tx);
+    return code == 0;
+}
+
+bool Port::write_bits(const QString &name, int slave, int addr, int func, const QByteArray &data,
+                      QString &rx, QString &tx)
+{
+    if (!m_ctx) {
+        setNotOpenedError();
+        return false;
+    }
+    if (!prepareExchange(name, slave, false, rx, tx))
+        return false;
+    const uint8_t bit = !data.isEmpty() && data.at(0) != 0 ? 1 : 0;
+    const int rc = func == 5 ? modbus_write_bit(m_ctx, addr, bit) : modbus_write_bits(m_ctx, addr, 1, &bit);
+    int code = 0;
+    if (rc != 1) {
+        code = errno;
+        if (rc == -1 && code == 0)
+            code = EIO;
+    }
+    errorProcessing(code, rx, tx);
+    return code == 0;
+}
+
+QByteArray Port::sendRawRequest(const QByteArray &request, QString &rx, QString &tx, bool process)
+{
+    errno = 0;
+    QByteArray result;
+    int state = ResultGood;
+    int code = 0;
+    if (!m_ctx) {
+        setNotOpenedError();
+        state = ResultPortError;
+    } else {
+        modbus_set_dbg_context(m_ctx, fullName().toLocal8Bit().constData());
+        modbus_clear_txrx_bufs(m_ctx);
+        QByteArray copy = request;
+        const int sent = modbus_send_raw_request(m_ctx, reinterpret_cast<uint8_t *>(copy.data()),
+                                                 int(copy.size()));
+        if (sent < 1) {
+            code = errno;
+            if (sent == -1 && code == 0)
+                code = EIO;
+            state = ResultPortError;
+        } else {
+            uint8_t reply[1024];
+            std::memset(reply, 0, sizeof reply);
+            const int received = modbus_receive_confirmation(m_ctx, reply);
+            if (received < 1) {
+                code = errno;
+                if (received == -1 && code == 0)
+                    code = EIO;
+                state = ResultModbusError;
+            } else {
+                result.append(reinterpret_cast<const char *>(reply), received);
+            }
+        }
+    }
+    if (process) {
+        errorProcessing(code, rx, tx);
+        return result;
+    }
+    setErrorString(getErrorString(state, errno));
+    updateState(state);
+    if (state != ResultGood) {
+        LOG_INFO << QStringLiteral("error processing raw request '%1' - %2").arg(fullName(), errorString());
+        if (ServerItem *parent = parentItem())
+            parent->increaseErrorCount();
+        if (code == EIO)
+            close();
+    }
+    return result;
+}
+
+void Port::errorProcessing(int code, QString &rx, QString &tx)
+{
+    const int state = code == 0 ? ResultGood : (code == ETIMEDOUT ? ResultTimeout : ResultModbusError);
+    setErrorString(getErrorString(state, code));
+    updateState(state);
+    tx = buildModbusString(QStringLiteral("TX"), m_ctx, modbus_get_tx_msg(m_ctx));
+    rx = buildModbusString(QStringLiteral("RX"), m_ctx, modbus_get_rx_msg(m_ctx));
+    if (code == EIO) {
+        LOG_INFO << "!!! Close port on I/O error (code 5) !!!";
+        close();
+    }
+}
+
+static int milliseconds(const timeval &tv)
+{
+    return int(tv.tv_usec / 1000) + (tv.tv_sec > 0 ? int(tv.tv_sec * 1000) : 0);
+}
+
+QString Port::buildModbusString(const QString &direction, const modbus_t *ctx, const modbus_msg_t *msg)
+{
+    if (!msg || msg->length <= 0)
+        return QString();
+    timeval tv1{};
+    timeval tv2{};
+    modbus_get_response_time1(ctx, &tv1);
+    modbus_get_response_time2(ctx, &tv2);
+    const int t1 = milliseconds(tv1);
+    const int t2 = milliseconds(tv2);
+    // The stamps are reconstructed backwards from now: t2 spans the whole
+    // exchange, t1 the wait for the start of the reply.
+    const QDateTime now = QDateTime::currentDateTime();
+    const bool isTx = direction == QLatin1String("TX");
+    const QDateTime shown = isTx ? now.addMSecs(-t2) : now.addMSecs(t1 - t2);
+    const int first = isTx ? t1 : t2 - t1;
+    const int length = qMin(msg->length, int(sizeof msg->buf));
+    return QStringLiteral("%1 %2(%3/%4): ")
+               .arg(shown.toString(QStringLiteral("hh:mm:ss.zzz")), direction)
+               .arg(first)
+               .arg(t2)
+           + byteBufferToString(reinterpret_cast<const char *>(msg->buf), length);
 }

@@ -80,14 +80,36 @@ public:
     bool hasArchivatedDevices() const;
     bool hasDevicesWithProblemTags() const;
 
-    // Transport.
+    // Transport. All exchanges block the calling thread; callers hold the port lock.
     bool isOpened() const { return m_ctx != nullptr; }
     modbus_t *modbusContext() const { return m_ctx; }
     bool open();
     void close();
+    void flush();
     QSemaphore *portLock() { return &m_portLock; }
 
+    void setResponseTimeout(int ms);
+    void setByteTimeout(int ms);
+    int responseTimeout() const;
+    int byteTimeout() const;
+
+    bool read_registers(const QString &name, int slave, int addr, int func, int lengthInBytes,
+                        QByteArray &out, QString &rx, QString &tx, bool swap);
+    bool write_registers(const QString &name, int slave, int addr, int func, const QByteArray &data,
+                         QString &rx, QString &tx, bool swap);
+    bool read_bits(const QString &name, int slave, int addr, int func, QByteArray &out, QString &rx,
+                   QString &tx);
+    bool write_bits(const QString &name, int slave, int addr, int func, const QByteArray &data,
+                    QString &rx, QString &tx);
+    QByteArray sendRawRequest(const QByteArray &request, QString &rx, QString &tx, bool process);
+    void errorProcessing(int code, QString &rx, QString &tx);
+    static QString buildModbusString(const QString &direction, const modbus_t *ctx,
+                                     const struct _modbus_msg *msg);
+
 private:
+    bool prepareExchange(const QString &name, int slave, bool clearLine, QString &rx, QString &tx);
+    void setNotOpenedError();
+
     modbus_t *m_ctx = nullptr;
     QSemaphore m_portLock;
 };

@@ -1,6 +1,8 @@
 #include "model/tag.h"
 
 #include "app/debugqt.h"
+#include "config/utils.h"
+#include "exchange/byteswapper.h"
 #include "model/device.h"
 
 #include <QReadLocker>
@@ -8,6 +10,8 @@
 #include <QWriteLocker>
 
 #include <cmath>
+#include <cstring>
+#include <limits>
 
 namespace {
 
@@ -536,4 +540,277 @@ QVariantMap Tag::save() const
         map.insert(QStringLiteral("values"), m_values);
     map.insert(QStringLiteral("modified"), isModified());
     return map;
+}
+
+// For a separate block the port moves raw registers and the tag swaps its own
+// slice; a byte array is never swapped. The change of the tag lasts.
+bool Tag::applySwapFlagRule()
+{
+    Device *dev = device();
+    const bool deviceFlag = dev->byteSwappingEnabled();
+    if (deviceFlag && byteSwappingEnabled() && m_tagType == ttSeparate && m_registersCount > 0)
+        setByteSwappingEnabled(false);
+    else if (m_deviceType == dtByteArray)
+        setByteSwappingEnabled(false);
+    if (deviceFlag != byteSwappingEnabled()) {
+        LOG_INFO << "*** set device byte swapping enabled:" << byteSwappingEnabled();
+        dev->setByteSwappingEnabled(byteSwappingEnabled());
+    }
+    return deviceFlag;
+}
+
+void Tag::restoreDeviceSwapFlag(bool deviceFlag)
+{
+    device()->setByteSwappingEnabled(deviceFlag);
+}
+
+static ModbusValue zeroValue()
+{
+    ModbusValue value;
+    std::memset(&value, 0, sizeof value);
+    return value;
+}
+
+static QByteArray swappedSlice(const QByteArray &slice, int width)
+{
+    return ByteSwapper::swap_byteorder(ByteSwapper::swap_byteorder(slice, 2), width);
+}
+
+static void copyInto(ModbusValue &value, const QByteArray &bytes, int width)
+{
+    std::memcpy(value.bytes, bytes.constData(), size_t(qBound(0, qMin(int(bytes.size()), width), 8)));
+}
+
+void Tag::tagRequesting()
+{
+    QMutexLocker locker(&m_requestMutex);
+    m_requestDone = false;
+}
+
+bool Tag::waitTagRequested(int timeoutMs)
+{
+    QMutexLocker locker(&m_requestMutex);
+    QDeadlineTimer deadline(timeoutMs);
+    while (!m_requestDone) {
+        if (!m_requested.wait(&m_requestMutex, deadline))
+            return m_requestDone;
+    }
+    return true;
+}
+
+void Tag::finishRequest(int state, const char *verb)
+{
+    if (const Device *dev = device())
+        setErrorString(dev->errorString());
+    updateState(state);
+    if (state != ResultGood)
+        LOG_INFO << QStringLiteral("error %1 tag '%2' - %3").arg(QLatin1String(verb), fullName(), errorString());
+    QMutexLocker locker(&m_requestMutex);
+    m_requestDone = true;
+    m_requested.wakeAll();
+}
+
+QVariant Tag::read()
+{
+    Device *dev = device();
+    if (!dev) {
+        finishRequest(ResultConfigError, "reading");
+        return value();
+    }
+    if (m_access != ReadOnly && m_access != ReadWrite) {
+        // Reading a write-only tag reports success and leaves the value.
+        finishRequest(ResultGood, "reading");
+        return value();
+    }
+    mySleep(m_requestDelay);
+    const bool deviceFlag = applySwapFlagRule();
+    const int state = dev->read(fullName(), int(address()), readFunc(), deviceTypeLengthToRead(), m_rawBuffer);
+    restoreDeviceSwapFlag(deviceFlag);
+
+    if (state != ResultGood) {
+        // A channel shows a gap in the plot and the measure file.
+        if (isChannel())
+            setValue(std::numeric_limits<float>::quiet_NaN());
+    } else if (m_deviceType == dtBit) {
+        setValue(!m_rawBuffer.isEmpty() && m_rawBuffer.at(0) != 0);
+    } else if (m_tagType == ttNormal) {
+        QByteArray bytes = m_rawBuffer;
+        if (byteOrderEnabled())
+            bytes = ByteSwapper::convert(bytes, byteOrder());
+        if (m_deviceType == dtByteArray) {
+            setValue(bytes);
+        } else {
+            ModbusValue raw = zeroValue();
+            copyInto(raw, bytes, deviceTypeLength());
+            setModbusValue(raw);
+        }
+    } else if (m_tagType == ttSeparate && m_addressOffset >= 0) {
+        const int width = deviceTypeLength();
+        QByteArray slice = m_rawBuffer.mid(m_addressOffset * 2, width);
+        if (deviceFlag)
+            slice = swappedSlice(slice, width);
+        if (byteOrderEnabled())
+            slice = ByteSwapper::convert(slice, byteOrder());
+        ModbusValue raw = zeroValue();
+        copyInto(raw, slice, width);
+        setModbusValue(raw);
+    }
+    finishRequest(state, "reading");
+    return value();
+}
+
+void Tag::setModbusValue(ModbusValue raw)
+{
+    if (m_useBitExtraction || m_useBitExtractionReadOnly)
+        raw.u32 = extract_bits(raw.bytes, m_extractBitFrom, m_extractBitTo - m_extractBitFrom + 1);
+    switch (m_deviceType) {
+    case dtBit:
+        setValue(true);
+        break;
+    case dtInt16:
+        setValue(int(raw.i16));
+        break;
+    case dtUInt16:
+        setValue(int(raw.u16));
+        break;
+    case dtInt32:
+        setValue(int(raw.i32));
+        break;
+    case dtUInt32:
+        setValue(uint(raw.u32));
+        break;
+    case dtFloat32:
+        setValue(raw.f32);
+        break;
+    case dtFloat64:
+        // Kept as a single-precision float: the double precision is lost on reading.
+        setValue(float(raw.f64));
+        break;
+    default:
+        break;
+    }
+}
+
+ModbusValue Tag::getModbusValue() const
+{
+    ModbusValue raw = zeroValue();
+    const QVariant v = value();
+    switch (m_deviceType) {
+    case dtBit:
+        raw.u32 = v.toBool() ? 1 : 0;
+        break;
+    case dtInt16:
+        raw.i16 = int16_t(v.toInt() & 0xFFFF);
+        break;
+    case dtUInt16:
+        raw.u16 = uint16_t(v.toUInt() & 0xFFFF);
+        break;
+    case dtInt32:
+        raw.i32 = v.toInt();
+        break;
+    case dtUInt32:
+        raw.u32 = v.toUInt();
+        break;
+    case dtFloat32:
+        raw.f32 = v.toFloat();
+        break;
+    case dtFloat64:
+        raw.f64 = v.toDouble();
+        break;
+    default:
+        break;
+    }
+    return raw;
+}
+
+QByteArray Tag::prepareWriteBuffer(const QVariant &newValue, bool deviceFlag)
+{
+    if (m_deviceType == dtByteArray)
+        return newValue.toByteArray();
+    const int width = deviceTypeLength();
+    ModbusValue word = zeroValue();
+    if (m_useBitExtraction) {
+        // Read the register first, so that only this bit field changes.
+        Device *dev = device();
+        dev->read(fullName(), int(address()), readFunc(), deviceTypeLengthToRead(), m_rawBuffer);
+        QByteArray bytes = m_rawBuffer;
+        if (m_tagType == ttSeparate) {
+            bytes = bytes.mid(m_addressOffset * 2, width);
+            if (deviceFlag)
+                bytes = swappedSlice(bytes, width);
+        }
+        if (byteOrderEnabled())
+            bytes = ByteSwapper::convert(bytes, byteOrder());
+        copyInto(word, bytes, width);
+        word.u32 = set_bits(word.u32, newValue.toUInt(), m_extractBitFrom, m_extractBitTo - m_extractBitFrom + 1);
+    } else {
+        word = getModbusValue();
+    }
+    return QByteArray(reinterpret_cast<const char *>(word.bytes), width);
+}
+
+QByteArray Tag::groupWriteBuffer(const QByteArray &ownBytes, bool deviceFlag)
+{
+    const int length = deviceTypeLengthToWrite();
+    LOG_INFO << "tagsGroupTypesLen:" << length;
+    QByteArray group(length, '\0');
+    const Device *dev = device();
+    for (const QString &member : qAsConst(m_tagsGroup)) {
+        const Tag *tag = dev->tag(member);
+        if (!tag)
+            continue;
+        const int memberWidth = tag->deviceTypeLength();
+        QByteArray bytes;
+        if (tag == this) {
+            bytes = ownBytes;
+        } else {
+            const ModbusValue raw = tag->getModbusValue();
+            bytes = QByteArray(reinterpret_cast<const char *>(raw.bytes), memberWidth);
+        }
+        if (tag->byteOrderEnabled()) {
+            LOG_INFO << "######### byteOrderingEnabled() ##########";
+            bytes = ByteSwapper::convert(bytes, tag->byteOrder());
+        }
+        if (deviceFlag) {
+            LOG_INFO << "######### byteSwappingEnabled() ##########";
+            bytes = swappedSlice(bytes, memberWidth);
+        }
+        // A member that lies beyond the block is the configuration's fault: clip it.
+        const int at = tag->addressOffset() * 2;
+        const int room = qMax(0, qMin(int(bytes.size()), int(group.size()) - at));
+        if (at >= 0 && room > 0)
+            std::memcpy(group.data() + at, bytes.constData(), size_t(room));
+    }
+    LOG_INFO << "wbuffer" << group.toHex(' ');
+    return group;
+}
+
+bool Tag::write(const QVariant &newValue)
+{
+    LOG_INFO << "write " << newValue;
+    Device *dev = device();
+    if (!dev || (m_access != WriteOnly && m_access != ReadWrite)) {
+        finishRequest(ResultConfigError, "writing");
+        return false;
+    }
+    {
+        QWriteLocker locker(&m_valueLock);
+        m_value = newValue;
+    }
+    const bool deviceFlag = applySwapFlagRule();
+    QByteArray buffer = prepareWriteBuffer(newValue, deviceFlag);
+    // The same rule as on reading, not its inverse.
+    if (byteOrderEnabled() && m_tagType != ttSeparate)
+        buffer = ByteSwapper::convert(buffer, byteOrder());
+    mySleep(m_requestDelay);
+    int state;
+    if (m_tagType == ttSeparate) {
+        const QByteArray group = groupWriteBuffer(buffer, deviceFlag);
+        state = dev->write(fullName(), int(address()), writeFunc(), int(group.size()), group);
+    } else {
+        state = dev->write(fullName(), int(address()), writeFunc(), deviceTypeLengthToWrite(), buffer);
+    }
+    restoreDeviceSwapFlag(deviceFlag);
+    finishRequest(state, "writing");
+    return state == ResultGood;
 }

@@ -150,6 +150,17 @@ public:
     int deviceTypeLengthToRead() const;
     int deviceTypeLengthToWrite();
 
+    // One synchronous exchange; the result stays in the tag's state and error text.
+    QVariant read();
+    bool write(const QVariant &value);
+    void setModbusValue(ModbusValue raw);
+    ModbusValue getModbusValue() const;
+
+    // Hand-over of a request queued to the polling thread: the requester marks
+    // the tag, the exchange ends by waking it. The wait is bounded.
+    void tagRequesting();
+    bool waitTagRequested(int timeoutMs);
+
     QString byteOrder() const { return property("byteorder").toString(); }
     bool byteOrderEnabled() const { return property("byteorder_enabled").toBool(); }
     bool byteSwappingEnabled() const { return property("byteswap_enabled").toBool(); }
@@ -175,6 +186,11 @@ signals:
 
 private:
     int bitWidth() const { return deviceTypeLength() * 8; }
+    bool applySwapFlagRule();
+    void restoreDeviceSwapFlag(bool deviceFlag);
+    QByteArray prepareWriteBuffer(const QVariant &value, bool deviceFlag);
+    QByteArray groupWriteBuffer(const QByteArray &ownBytes, bool deviceFlag);
+    void finishRequest(int state, const char *verb);
     int clampExtractBitTo(int bit) const;
     void readValueFromMap(const QVariantMap &map);
 
@@ -206,9 +222,9 @@ private:
     int m_registersCount = 0;
     QStringList m_tagsGroup;
 
-protected:
     QWaitCondition m_requested;
     QMutex m_requestMutex;
+    bool m_requestDone = true;
 };
 
 #endif // TAG_H
