@@ -4,7 +4,12 @@
 #include "exchange/channel.h"
 #include "model/port.h"
 #include "config/utils.h"
+#include "discovery/modbusidentity.h"
+#include "exchange/byteswapper.h"
 #include "model/tag.h"
+
+#include <QDate>
+#include <QRegularExpression>
 
 #include <QElapsedTimer>
 #include <QTime>
@@ -648,9 +653,9 @@ void Device::checkAndSetPortTimeouts()
 void Device::checkOffDevice()
 {
     m_deviceId = 0;
-    m_identification[0].clear(); // reply text
-    m_identification[1].clear(); // short identification
-    m_identification[2].clear(); // firmware number
+    m_identification[ReplyText].clear();
+    m_identification[ShortIdentification].clear();
+    m_identification[FirmwareNumber].clear();
 }
 
 void Device::copyLineSettingsFrom(const Port *p)
@@ -870,4 +875,163 @@ int Device::write(const QString &name, int addr, int func, int lengthInBytes, co
     pauseAfterExchange();
     p->portLock()->release();
     return state;
+}
+
+// Runs the probe that the modbus_id names; on success fills the device id and reply text.
+static bool probeIdentity(Device *device, Port *p, const ModbusIdentity &identity, QString &rx, QString &tx,
+                          int &deviceId, QString &reply)
+{
+    const int slave = device->address();
+    QByteArray out;
+    switch (identity.method) {
+    case ModbusIdentity::ReadRegisters:
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+            return false;
+        deviceId = 127;
+        reply = QStringLiteral("custom");
+        return true;
+    case ModbusIdentity::Hamilton:
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, true, rx, tx))
+            return false;
+        deviceId = 31;
+        reply = QString::fromLatin1(out).trimmed();
+        return true;
+    case ModbusIdentity::Nengshi: {
+        SLOG_INFO << "### try china sensor ###";
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+            return false;
+        const int unit = out.size() > 2 ? quint8(out.at(2)) : 0;
+        SLOG_INFO << "unit code:" << unit;
+        deviceId = 175;
+        reply = unit == 10 ? QStringLiteral("Nengshi-pH")
+                           : (unit >= 7 && unit <= 9 ? QStringLiteral("Nengshi-CON") : QStringLiteral("Nengshi"));
+        mySleep(70);
+        return true;
+    }
+    case ModbusIdentity::Y510B:
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+            return false;
+        deviceId = 127;
+        reply = QString::fromLatin1(ByteSwapper::swap_byteorder(out, 2)).remove(QChar(0)).trimmed();
+        return true;
+    case ModbusIdentity::Y610B:
+        // This sensor often misses the first requests after a pause.
+        for (int attempt = 0; attempt < 10; ++attempt) {
+            if (p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx)) {
+                mySleep(500);
+                deviceId = 127;
+                reply = QStringLiteral("Y610-B");
+                return true;
+            }
+        }
+        return false;
+    case ModbusIdentity::Function17:
+        return p->checkDeviceByF17(identity.id, slave, &deviceId, reply, rx, tx);
+    }
+    return false;
+}
+
+bool Device::checkDevice(int baudIndex, int parityIndex, int protocol, int delimiter)
+{
+    Port *p = port();
+    if (!p)
+        return false;
+    p->portLock()->acquire();
+    // A check always starts from a fresh open with the protocol's default timeouts.
+    p->close();
+    bool result = false;
+    int state = ResultPortError;
+    QElapsedTimer timer;
+    timer.start();
+    m_processingTime = 0;
+    if (openPort(baudIndex, parityIndex, protocol, delimiter)) {
+        sendModbusMessage(QStringLiteral("Try to check %1 at address %2 via %3 ...").arg(name()).arg(address()).arg(p->configName()));
+        QString rx;
+        QString tx;
+        int deviceId = 0;
+        QString reply;
+        const ModbusIdentity identity = ModbusIdentity::parse(m_modbusId);
+        result = probeIdentity(this, p, identity, rx, tx, deviceId, reply);
+        if (!tx.isEmpty())
+            sendModbusMessage(tx);
+        if (!rx.isEmpty())
+            sendModbusMessage(rx);
+        state = p->lastResult();
+        if (!result) {
+            setErrorString(p->errorString());
+            sendModbusMessage(errorString());
+            if (state == ResultGood)
+                state = ResultModbusError;
+        } else {
+            state = ResultGood;
+            m_deviceId = deviceId;
+            m_identification[ReplyText] = reply;
+            setErrorString(QString());
+            sendModbusMessage(QStringLiteral("Checked successfully - %1!").arg(reply));
+            initFirmwareNumber();
+            if (!firmwareNumber().isEmpty())
+                sendModbusMessage(QStringLiteral("Firmware number - %1").arg(firmwareNumber()));
+            if (!deviceFirmwareDate().isEmpty())
+                sendModbusMessage(QStringLiteral("Firmware date - %1").arg(deviceFirmwareDate()));
+            result = checkFirmwareDate();
+        }
+    } else {
+        state = lastResult();
+    }
+    m_processingTime = int(timer.elapsed());
+    updateState(state);
+    pauseAfterExchange();
+    p->portLock()->release();
+    return result;
+}
+
+// An instrument older than its template answers, but is reported: the state
+// stays good and the device stays checked.
+bool Device::checkFirmwareDate()
+{
+    if (m_firmwareDate.isEmpty())
+        return true;
+    const QString format = QStringLiteral("dd.MM.yyyy");
+    const QDate templateDate = QDate::fromString(m_firmwareDate, format);
+    const QDate deviceDate = QDate::fromString(deviceFirmwareDate(), format);
+    QString text;
+    if (!deviceDate.isValid()) {
+        text = tr("Template version does not match device version!") + QLatin1Char(' ')
+               + tr("Invalid device firmware date ('%1')").arg(deviceFirmwareDate());
+    } else if (templateDate.isValid() && templateDate > deviceDate) {
+        text = tr("Template version does not match device version!") + QLatin1Char(' ')
+               + tr("Device firmware date (%1) is less than template date (%2).")
+                     .arg(deviceFirmwareDate(), m_firmwareDate);
+    } else {
+        return true;
+    }
+    sendModbusMessage(text);
+    setErrorString(text);
+    return false;
+}
+
+void Device::initFirmwareNumber()
+{
+    static const QRegularExpression firmwareForm(QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d\\d-\\d\\d")));
+    static const QRegularExpression serialForm(QRegularExpression::anchoredPattern(QStringLiteral("N\\d\\d\\d")));
+    static const QRegularExpression fourDigits(QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d")));
+    const QString reply = m_identification[ReplyText];
+    const QStringList tokens = reply.split(QLatin1Char(' '));
+    m_identification[ShortIdentification] = reply;
+    if (tokens.size() > 2) {
+        if (firmwareForm.match(tokens.at(2)).hasMatch()) {
+            m_identification[FirmwareNumber] = tokens.at(2);
+            m_identification[DeviceFirmwareDate] = tokens.value(3).replace(QLatin1Char(':'), QLatin1Char('.'));
+            m_identification[ShortIdentification] = QString(reply).remove(tokens.at(2) + QLatin1Char(' '));
+        } else {
+            m_identification[DeviceFirmwareDate] = QString(tokens.at(2)).replace(QLatin1Char(':'), QLatin1Char('.'));
+        }
+    }
+    if (tokens.size() > 6 && serialForm.match(tokens.at(1)).hasMatch() && fourDigits.match(tokens.at(2)).hasMatch()
+        && firmwareForm.match(tokens.at(4)).hasMatch()) {
+        m_identification[SerialText] = tokens.at(1);
+        m_identification[FirmwareNumber] = tokens.at(4);
+        m_identification[DeviceFirmwareDate] = QString(tokens.at(5)).replace(QLatin1Char(':'), QLatin1Char('.'));
+        m_identification[ShortIdentification] = QStringList{tokens.at(0), tokens.at(3), tokens.at(5), tokens.at(6)}.join(QLatin1Char(' '));
+    }
 }

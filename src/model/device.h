@@ -100,11 +100,27 @@ public:
     void setDeviceTemplateName(const QString &name);
     bool setDeviceName(const QString &name, bool checkOnly);
 
+    // Identification: index of the texts learnt from the instrument.
+    enum IdentificationText {
+        ReplyText = 0,
+        ShortIdentification = 1,
+        SerialText = 2,
+        FirmwareNumber = 3,
+        DeviceFirmwareDate = 4,
+        TemplateFirmwareDate = 5, // the "firmware_date" key
+    };
     int deviceId() const { return m_deviceId; }
+    int deviceID() const { return m_deviceId; }
     void setDeviceId(int id) { m_deviceId = id; }
-    // Identification results; index 5 is the firmware date.
     QString identification(int index) const;
     void setIdentification(int index, const QString &text);
+    QString replyText() const { return m_identification[ReplyText]; }
+    QString firmwareNumber() const { return m_identification[FirmwareNumber]; }
+    QString deviceFirmwareDate() const { return m_identification[DeviceFirmwareDate]; }
+
+    // Asks the instrument for proof that it is what modbus_id says; arguments as in openPort.
+    bool checkDevice(int baudIndex = -1, int parityIndex = -1, int protocol = -1, int delimiter = -1);
+    void initFirmwareNumber();
 
     SerialPortSettings portSettings() const { return m_portSettings; }
     void setPortSettings(const SerialPortSettings &settings) { m_portSettings = settings; }
@@ -196,6 +212,7 @@ signals:
 
 private:
     bool openPortForCheck(Port *port, int baudIndex, int parityIndex, int protocol, int delimiter);
+    bool checkFirmwareDate();
     bool openPortForExchange(Port *port);
     void copyLineSettingsFrom(const Port *port);
     void pauseAfterExchange();

@@ -674,3 +674,134 @@ QString Port::buildModbusString(const QString &direction, const modbus_t *ctx, c
                .arg(t2)
            + byteBufferToString(reinterpret_cast<const char *>(msg->buf), length);
 }
+
+bool Port::prepareCheck(const QString &label, int slave)
+{
+    if (!m_ctx) {
+        setNotOpenedError();
+        updateState(ResultPortError);
+        return false;
+    }
+    errno = 0;
+    modbus_set_slave(m_ctx, slave);
+    modbus_set_dbg_context(m_ctx, label.toLocal8Bit().constData());
+    modbus_clear_txrx_bufs(m_ctx);
+    modbus_flush(m_ctx);
+    return true;
+}
+
+// A probe that got no answer: a timeout is "not found", anything else an error.
+bool Port::checkFailed(int rc, const QString &expected, int slave)
+{
+    if (rc >= 1)
+        return false;
+    int code = errno;
+    if (code == ETIMEDOUT) {
+        LOG_INFO << "* ETIMEDOUT *";
+        setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3").arg(expected).arg(slave).arg(configName()));
+        updateState(ResultTimeout);
+        return true;
+    }
+    if (rc == -1 && code == 0) {
+        close();
+        code = EIO;
+    }
+    setErrorString(getErrorString(ResultModbusError, code));
+    LOG_INFO << QStringLiteral("check error '%1' - %2").arg(expected, errorString());
+    updateState(ResultModbusError);
+    return true;
+}
+
+void Port::buildTrafficLines(QString &rx, QString &tx)
+{
+    tx = buildModbusString(QStringLiteral("TX"), m_ctx, modbus_get_tx_msg(m_ctx));
+    rx = buildModbusString(QStringLiteral("RX"), m_ctx, modbus_get_rx_msg(m_ctx));
+}
+
+bool Port::checkDeviceByF3(const QString &expected, int slave, int addr, int count, QByteArray &out,
+                           bool compare, QString &rx, QString &tx)
+{
+    if (!prepareCheck(expected, slave))
+        return false;
+    count = qBound(1, count, 125);
+    out = QByteArray(count * 2, '\0');
+    std::vector<uint16_t> words(size_t(count), 0);
+    const int rc = expected.contains(QLatin1String("Nengshi"))
+                       ? modbus_read_input_registers(m_ctx, addr, count, words.data())
+                       : modbus_read_registers(m_ctx, addr, count, words.data());
+    const bool failed = checkFailed(rc, expected, slave);
+    if (failed) {
+        buildTrafficLines(rx, tx);
+        return false;
+    }
+    std::memcpy(out.data(), words.data(), size_t(count) * 2);
+    bool ok = true;
+    if (compare && !expected.isEmpty()) {
+        ok = out.size() > 2 && out.contains(expected.toLatin1());
+        if (!ok) {
+            setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3. It's was found %4")
+                               .arg(expected)
+                               .arg(slave)
+                               .arg(configName(), QString::fromLatin1(out)));
+        }
+    }
+    if (ok) {
+        setErrorString(QString());
+        updateState(ResultGood);
+    }
+    buildTrafficLines(rx, tx);
+    return ok;
+}
+
+static bool hasCompactName(const QByteArray &reply)
+{
+    for (const char *name : {"Fenn2R", "Zolt30", "Zolt41", "Zolt51", "Marn14T"}) {
+        if (reply.contains(name))
+            return true;
+    }
+    return false;
+}
+
+bool Port::checkDeviceByF17(const QString &expected, int slave, int *deviceId, QString &replyText,
+                            QString &rx, QString &tx)
+{
+    if (!prepareCheck(QStringLiteral("check fun17 to %1").arg(expected), slave))
+        return false;
+    uint8_t buffer[MODBUS_MAX_ADU_LENGTH];
+    std::memset(buffer, 0, sizeof buffer);
+    const int rc = modbus_report_slave_id(m_ctx, buffer);
+    if (checkFailed(rc, expected, slave)) {
+        buildTrafficLines(rx, tx);
+        return false;
+    }
+    const QByteArray reply(reinterpret_cast<const char *>(buffer), qBound(0, rc, int(sizeof buffer)));
+    // A reply without a blank is accepted only from the models that send their name compact.
+    if (reply.size() < 3 || (!reply.contains(' ') && !hasCompactName(reply))) {
+        setErrorString(QStringLiteral("*** Uncorrect reply17: %1 from address %2 via %3")
+                           .arg(byteBufferToString(reply))
+                           .arg(slave)
+                           .arg(configName()));
+        updateState(ResultModbusError);
+        buildTrafficLines(rx, tx);
+        return false;
+    }
+    LOG_INFO << "device id:" << QString::number(quint8(reply.at(0)), 16);
+    if (deviceId)
+        *deviceId = int(qint8(reply.at(0)));
+    const QString text = QString::fromLatin1(reply.mid(2));
+    const QString first = text.split(QLatin1Char(' ')).value(0);
+    bool ok = first == expected;
+    if (ok) {
+        replyText = text;
+        setErrorString(QString());
+        updateState(ResultGood);
+    } else {
+        setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3. It's was found %4")
+                           .arg(expected)
+                           .arg(slave)
+                           .arg(configName(), text));
+        updateState(ResultModbusError);
+    }
+    buildTrafficLines(rx, tx);
+    return ok;
+}

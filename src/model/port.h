@@ -103,11 +103,20 @@ public:
                     QString &rx, QString &tx);
     QByteArray sendRawRequest(const QByteArray &request, QString &rx, QString &tx, bool process);
     void errorProcessing(int code, QString &rx, QString &tx);
+
+    // Identification probes; they always start from a flushed line.
+    bool checkDeviceByF3(const QString &expected, int slave, int addr, int count, QByteArray &out,
+                         bool compare, QString &rx, QString &tx);
+    bool checkDeviceByF17(const QString &expected, int slave, int *deviceId, QString &replyText,
+                          QString &rx, QString &tx);
     static QString buildModbusString(const QString &direction, const modbus_t *ctx,
                                      const struct _modbus_msg *msg);
 
 private:
     bool prepareExchange(const QString &name, int slave, bool clearLine, QString &rx, QString &tx);
+    bool prepareCheck(const QString &label, int slave);
+    bool checkFailed(int rc, const QString &expected, int slave);
+    void buildTrafficLines(QString &rx, QString &tx);
     void setNotOpenedError();
 
     modbus_t *m_ctx = nullptr;
