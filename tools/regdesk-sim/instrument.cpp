@@ -110,6 +110,10 @@ void Instrument::buildMap()
             if (t.writeFunc != 0 && t.access != Tag::ReadOnly)
                 flags |= RegisterMap::Write;
             m_map.coverRegisters(t.address, t.registers(), flags);
+            // The master reads a separate tag's block whole, and writes it whole
+            // when one member is writable.
+            if (t.separate && t.blockRegisters > 0)
+                m_map.coverRegisters(t.blockAddress, t.blockRegisters, flags);
         }
         m_tags << t;
     }
@@ -129,6 +133,16 @@ void Instrument::buildMap()
             curve = m_settings.curves.value(t.name);
         } else {
             curve = SignalGenerator::curveFor(value.toDouble(), t.hasLimits, t.low, t.high, salt);
+            const QString lower = t.name.toLower();
+            if (t.isFloat() && (lower.contains(QLatin1String("_t_")) || lower.endsWith(QLatin1String("_t_value")))) {
+                curve.base = 21.0; // temperatures move little around the room's
+                curve.amplitude = 1.5;
+                curve.noise = 0.05;
+            } else if (t.isFloat() && (lower.contains(QLatin1String("current_output")) || lower.contains(QLatin1String("_i_value")))) {
+                curve.base = 12.0;
+                curve.amplitude = 3.0;
+                curve.noise = 0.02;
+            }
             if (isIntegral(t.deviceType) && !t.hasLimits && curve.base == 0.0) {
                 curve.base = 100;
                 curve.amplitude = 10;

@@ -48,8 +48,11 @@ SimTag TagCodec::fromTemplate(const QVariantMap &m, bool deviceSwap)
     t.width = qBound(0, t.width, 250);
     t.separate = Tag::tagTypeFromString(m.value(QStringLiteral("type")).toString()) == Tag::ttSeparate;
     t.address = Tag::addressFromText(m.value(QStringLiteral("address")).toString());
-    if (t.separate)
+    t.blockAddress = t.address;
+    if (t.separate) {
         t.address += qMax(0, m.value(QStringLiteral("address_offset")).toInt());
+        t.blockRegisters = qBound(0, m.value(QStringLiteral("registers_count")).toInt(), 125);
+    }
     if (t.deviceType == Tag::dtByteArray)
         t.swap = false;
     else if (!t.separate && m.contains(QStringLiteral("byteswap_enabled")))

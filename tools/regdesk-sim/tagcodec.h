@@ -15,6 +15,8 @@ struct SimTag
     int deviceType = 5;        // Tag::DeviceType
     int width = 4;             // bytes
     bool separate = false;
+    unsigned blockAddress = 0; // a separate tag's block
+    int blockRegisters = 0;
     bool swap = true;          // the master's byte swap for this tag
     bool byteorderEnabled = false;
     QString byteorder;

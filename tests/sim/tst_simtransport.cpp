@@ -1,0 +1,7 @@
+#include <QTest>
+class TestStub : public QObject
+{
+    Q_OBJECT
+};
+QTEST_GUILESS_MAIN(TestStub)
+#include "tst_simtransport.moc"
