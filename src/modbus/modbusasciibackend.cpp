@@ -23,10 +23,14 @@ void recordRawFrame(modbus_t *ctx, const char *body, int length, int end)
     ctx->recordRx(raw, n);
 }
 
-bool startsWithSlave(const char *body, int length, int slave)
+// Whether a frame cut off after length characters may be the reply of
+// slave; one too short to tell counts as the reply.
+bool mayBeFromSlave(const char *body, int length, int slave)
 {
     uint8_t address;
-    return length >= 2 && ModbusFrame::decodeAscii(body, 2, &address, 1) == 1 && address == slave;
+    if (length < 2 || ModbusFrame::decodeAscii(body, 2, &address, 1) != 1)
+        return true;
+    return address == slave;
 }
 
 } // namespace
@@ -83,7 +87,7 @@ int ModbusAsciiBackend::receive(modbus_t *ctx, int slave, uint8_t *frame)
             // The frame stopped midway.
             recordRawFrame(ctx, body, bodyLength, -1);
             inFrame = false;
-            if (startsWithSlave(body, bodyLength, slave)) {
+            if (mayBeFromSlave(body, bodyLength, slave)) {
                 errno = ETIMEDOUT;
                 return -1;
             }
