@@ -30,7 +30,9 @@ Identification::Identification(const InstrumentSettings &settings, const QList<S
     , m_tags(tags)
 {
     const QVariantMap device = settings.templateMap.value(QStringLiteral("device")).toMap();
-    m_modbusId = device.value(QStringLiteral("modbus_id")).toString();
+    // As the master loads it: without a modbus_id the template's name stands in.
+    m_modbusId = device.contains(QStringLiteral("modbus_id")) ? device.value(QStringLiteral("modbus_id")).toString()
+                                                                : device.value(QStringLiteral("template")).toString();
     m_templateName = settings.templateMap.value(QStringLiteral("name")).toString();
     m_templateDate = device.value(QStringLiteral("firmware_date")).toString();
 

@@ -23,6 +23,15 @@ QByteArray echo(const QByteArray &pdu)
     return pdu.left(5);
 }
 
+// A salt that is the same in every run (qHash is seeded per process).
+uint32_t stableHash(const QString &text)
+{
+    uint32_t h = 2166136261u;
+    for (const QChar c : text)
+        h = (h ^ c.unicode()) * 16777619u;
+    return h;
+}
+
 bool isIntegral(int deviceType)
 {
     return deviceType >= Tag::dtInt16 && deviceType <= Tag::dtUInt32;
@@ -127,7 +136,7 @@ void Instrument::buildMap()
                                 && (t.isFloat() || isIntegral(t.deviceType)) && !t.bitField);
         if (!moving)
             continue;
-        const uint32_t salt = uint32_t(qHash(t.name)) ^ uint32_t(m_settings.address * 7919);
+        const uint32_t salt = stableHash(t.name) ^ uint32_t(m_settings.address * 7919);
         ChannelCurve curve;
         if (m_settings.curves.contains(t.name)) {
             curve = m_settings.curves.value(t.name);
@@ -173,6 +182,15 @@ void Instrument::refreshChannels()
             v = std::round(v);
         writeTag(t, v);
     }
+}
+
+bool Instrument::isMoving(const QString &name) const
+{
+    for (const auto &channel : m_channels) {
+        if (m_tags.at(channel.first).name == name)
+            return true;
+    }
+    return false;
 }
 
 QVariant Instrument::tagValue(const QString &name)

@@ -36,6 +36,11 @@ public:
 
     // The value the master reads for a tag now.
     QVariant tagValue(const QString &name);
+    // The value a tag starts with: the scenario's, the template's, or a
+    // neutral one within its limits.
+    QVariant startValue(const SimTag &tag) const;
+    // The tag follows a curve.
+    bool isMoving(const QString &name) const;
     // Stores a tag's value as a write from the line would.
     bool setTagValue(const QString &name, const QVariant &value);
 
@@ -50,7 +55,6 @@ public:
 
 private:
     void buildMap();
-    QVariant startValue(const SimTag &tag) const;
     void refreshChannels();
     void writeTag(const SimTag &tag, const QVariant &value);
 
