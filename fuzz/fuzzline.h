@@ -122,7 +122,8 @@ inline void runStandardCalls(FuzzLine &line, int which, int quantity)
 // MODBUS_MAX_ADU_LENGTH bytes.
 inline void runRawExchange(FuzzLine &line, uint8_t function)
 {
-    uint8_t request[] = {uint8_t(modbus_get_slave(line.ctx)), function, 0x00, 0x00, 0x10, 0x00, 0x40};
+    uint8_t request[]
+        = {uint8_t(modbus_get_slave(line.ctx)), function, 0x00, 0x00, 0x10, 0x00, 0x40};
     if (modbus_send_raw_request(line.ctx, request, int(sizeof request)) < 0)
         return;
     uint8_t *rsp = static_cast<uint8_t *>(malloc(MODBUS_MAX_ADU_LENGTH));

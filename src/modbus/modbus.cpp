@@ -148,7 +148,7 @@ int checkConfirmation(modbus_t *ctx, const uint8_t *req, int reqLength, const ui
         errno = EMBBADDATA;
         return -1;
     }
-    const int quantity = req[4] << 8 | req[5];
+    const int quantity = reqLength >= 6 ? (req[4] << 8 | req[5]) : 0;
     bool good = true;
     int count = 1;
     switch (function) {
@@ -226,7 +226,7 @@ int readBits(modbus_t *ctx, int function, int addr, int nb, uint8_t *dest)
     if (refuseBroadcastRead(ctx))
         return -1;
     const uint8_t req[6] = {uint8_t(ctx->slave), uint8_t(function), uint8_t(addr >> 8),
-                            uint8_t(addr), uint8_t(nb >> 8), uint8_t(nb)};
+                            uint8_t(addr),       uint8_t(nb >> 8),  uint8_t(nb)};
     uint8_t rsp[MODBUS_MAX_ADU_LENGTH];
     const int rc = exchange(ctx, req, 6, rsp, 0);
     if (rc < 0)
@@ -255,7 +255,7 @@ int readRegisters(modbus_t *ctx, int function, int addr, int nb, uint16_t *dest)
     if (refuseBroadcastRead(ctx))
         return -1;
     const uint8_t req[6] = {uint8_t(ctx->slave), uint8_t(function), uint8_t(addr >> 8),
-                            uint8_t(addr), uint8_t(nb >> 8), uint8_t(nb)};
+                            uint8_t(addr),       uint8_t(nb >> 8),  uint8_t(nb)};
     uint8_t rsp[MODBUS_MAX_ADU_LENGTH];
     const int rc = exchange(ctx, req, 6, rsp, 0);
     if (rc < 0)
@@ -277,8 +277,8 @@ int writeSingle(modbus_t *ctx, int function, int addr, int value)
         errno = EINVAL;
         return -1;
     }
-    const uint8_t req[6] = {uint8_t(ctx->slave), uint8_t(function), uint8_t(addr >> 8),
-                            uint8_t(addr), uint8_t(value >> 8), uint8_t(value)};
+    const uint8_t req[6] = {uint8_t(ctx->slave), uint8_t(function),   uint8_t(addr >> 8),
+                            uint8_t(addr),       uint8_t(value >> 8), uint8_t(value)};
     uint8_t rsp[MODBUS_MAX_ADU_LENGTH];
     return exchange(ctx, req, 6, rsp, 1);
 }
@@ -598,9 +598,10 @@ int modbus_write_bits(modbus_t *ctx, int addr, int nb, const uint8_t *src)
         errno = EINVAL;
         return -1;
     }
-    uint8_t req[MODBUS_MAX_ADU_LENGTH] = {uint8_t(ctx->slave), MODBUS_FC_WRITE_MULTIPLE_COILS,
-                                          uint8_t(addr >> 8), uint8_t(addr), uint8_t(nb >> 8),
-                                          uint8_t(nb), uint8_t((nb + 7) / 8)};
+    uint8_t req[MODBUS_MAX_ADU_LENGTH] = {uint8_t(ctx->slave),  MODBUS_FC_WRITE_MULTIPLE_COILS,
+                                          uint8_t(addr >> 8),   uint8_t(addr),
+                                          uint8_t(nb >> 8),     uint8_t(nb),
+                                          uint8_t((nb + 7) / 8)};
     for (int i = 0; i < nb; ++i) {
         if (src[i])
             req[7 + i / 8] |= uint8_t(1 << (i % 8));
@@ -626,8 +627,9 @@ int modbus_write_registers(modbus_t *ctx, int addr, int nb, const uint16_t *src)
         return -1;
     }
     uint8_t req[MODBUS_MAX_ADU_LENGTH] = {uint8_t(ctx->slave), MODBUS_FC_WRITE_MULTIPLE_REGISTERS,
-                                          uint8_t(addr >> 8), uint8_t(addr), uint8_t(nb >> 8),
-                                          uint8_t(nb), uint8_t(2 * nb)};
+                                          uint8_t(addr >> 8),  uint8_t(addr),
+                                          uint8_t(nb >> 8),    uint8_t(nb),
+                                          uint8_t(2 * nb)};
     for (int i = 0; i < nb; ++i) {
         req[7 + 2 * i] = uint8_t(src[i] >> 8);
         req[8 + 2 * i] = uint8_t(src[i]);

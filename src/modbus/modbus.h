@@ -89,11 +89,11 @@ enum {
 
 /* The library's own codes follow the exception range with one spare slot;
  * the application relies on EMBBADCRC being 112345691. */
-#define EMBBADCRC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 1)   /* bad CRC or LRC */
-#define EMBBADDATA (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 2)  /* malformed or mismatched reply */
-#define EMBBADEXC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 3)   /* exception code out of range */
-#define EMBUNKEXC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 4)   /* reserved, never set */
-#define EMBMDATA (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 5)    /* too many data in a request */
+#define EMBBADCRC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 1) /* bad CRC or LRC */
+#define EMBBADDATA (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 2) /* malformed or mismatched reply */
+#define EMBBADEXC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 3) /* exception code out of range */
+#define EMBUNKEXC (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 4) /* reserved, never set */
+#define EMBMDATA (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 5) /* too many data in a request */
 #define EMBBADSLAVE (MODBUS_ENOBASE + MODBUS_EXCEPTION_MAX + 6) /* invalid slave address */
 
 typedef struct _modbus modbus_t;
@@ -102,7 +102,8 @@ typedef struct _modbus modbus_t;
  * CRC included. ASCII: the frame decoded to bytes (address, PDU, LRC); a
  * received frame that cannot be decoded is kept as the raw characters, so
  * that garbage stays visible in the traffic log. length 0: no frame. */
-typedef struct _modbus_msg {
+typedef struct _modbus_msg
+{
     uint8_t buf[MODBUS_MSG_BUFFER_SIZE];
     int length;
 } modbus_msg_t;
@@ -169,6 +170,31 @@ int modbus_get_response_timeout(modbus_t *ctx, struct timeval *timeout);
 int modbus_set_response_timeout(modbus_t *ctx, const struct timeval *timeout);
 int modbus_get_byte_timeout(modbus_t *ctx, struct timeval *timeout);
 int modbus_set_byte_timeout(modbus_t *ctx, const struct timeval *timeout);
+
+/* How replies are judged (all data functions and function 17):
+ *  - input waiting before a request is discarded: a late reply to an earlier
+ *    request must not be taken for the answer to this one;
+ *  - RTU waits 3.5 characters of silence (1.75 ms above 19200 baud) since
+ *    the line's last byte before it sends;
+ *  - a well-formed frame from another slave is skipped and the wait goes on
+ *    until the response timeout, which then gives ETIMEDOUT: on a shared bus
+ *    it is someone else's reply, and failing at once would lose step;
+ *  - no reply at all: ETIMEDOUT after the whole response timeout;
+ *  - a frame that stops midway for longer than the byte timeout: ETIMEDOUT
+ *    at once (a fragment that cannot be ours, RTU noise or another slave's,
+ *    is skipped like a foreign frame);
+ *  - a bad CRC or LRC: EMBBADCRC, and the rest of the input is discarded.
+ *    RTU has no start marker, so noise glued to a reply ends here; ASCII
+ *    skips anything before ':' and restarts on a new ':';
+ *  - an ASCII frame with an odd number of characters, a character that is
+ *    not hexadecimal, or fewer than 3 bytes: EMBBADDATA, input discarded;
+ *  - an exception reply: errno MODBUS_ENOBASE + code, EMBBADEXC for a code
+ *    beyond the known ones;
+ *  - a reply for another function, of the wrong length or count, or echoing
+ *    another address (writes): EMBBADDATA;
+ *  - the line gone (unplugged adapter, hung-up pty): EIO, so that the caller
+ *    can close the port.
+ */
 
 /* Data functions: the count of items on success, -1 and errno on failure.
  * Bits are one byte each (0 or 1), registers in host order. A write to the

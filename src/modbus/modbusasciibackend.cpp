@@ -101,11 +101,12 @@ int ModbusAsciiBackend::receive(modbus_t *ctx, int slave, uint8_t *frame)
 
         for (int i = 0; i < k; ++i) {
             const char c = char(chunk[i]);
-            if (inFrame && c == char(m_delimiter) && bodyLength > 0 && body[bodyLength - 1] == '\r') {
+            if (inFrame && c == char(m_delimiter) && bodyLength > 0
+                && body[bodyLength - 1] == '\r') {
                 inFrame = false;
                 uint8_t bytes[MODBUS_MAX_ADU_LENGTH];
-                const int n = ModbusFrame::decodeAscii(body, size_t(bodyLength - 1), bytes,
-                                                       sizeof bytes);
+                const int n
+                    = ModbusFrame::decodeAscii(body, size_t(bodyLength - 1), bytes, sizeof bytes);
                 if (n < 3) {
                     // Odd length, a character that is not hex, or too short.
                     recordRawFrame(ctx, body, bodyLength, c);

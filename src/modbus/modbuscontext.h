@@ -50,7 +50,10 @@ struct _modbus
 
     static int64_t nowUs();
     // Inter-byte limit within a frame.
-    int64_t frameByteTimeoutUs() const { return byteTimeoutUs > 0 ? byteTimeoutUs : responseTimeoutUs; }
+    int64_t frameByteTimeoutUs() const
+    {
+        return byteTimeoutUs > 0 ? byteTimeoutUs : responseTimeoutUs;
+    }
     void recordTx(const uint8_t *bytes, int length);
     void recordRx(const uint8_t *bytes, int length);
     void markReplyStart();

@@ -107,9 +107,25 @@ int ModbusFrame::decodeAscii(const char *hex, size_t length, uint8_t *out, size_
 bool ModbusFrame::isStandardFunction(int function)
 {
     switch (function) {
-    case 1: case 2: case 3: case 4: case 5: case 6: case 7: case 8:
-    case 11: case 12: case 15: case 16: case 17:
-    case 20: case 21: case 22: case 23: case 24: case 43:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+    case 6:
+    case 7:
+    case 8:
+    case 11:
+    case 12:
+    case 15:
+    case 16:
+    case 17:
+    case 20:
+    case 21:
+    case 22:
+    case 23:
+    case 24:
+    case 43:
         return true;
     default:
         return false;
@@ -126,7 +142,12 @@ int ModbusFrame::replyLength(const uint8_t *frame, size_t have, bool *countHint)
     if (function & 0x80)
         return 5;
     switch (function) {
-    case 5: case 6: case 8: case 11: case 15: case 16:
+    case 5:
+    case 6:
+    case 8:
+    case 11:
+    case 15:
+    case 16:
         return 8;
     case 7:
         return 5;
@@ -136,7 +157,14 @@ int ModbusFrame::replyLength(const uint8_t *frame, size_t have, bool *countHint)
         return have < 4 ? int(NeedMore) : 6 + (frame[2] << 8 | frame[3]);
     case 43:
         return Unknown;
-    case 1: case 2: case 3: case 4: case 12: case 20: case 21: case 23:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 12:
+    case 20:
+    case 21:
+    case 23:
         return have < 3 ? int(NeedMore) : 5 + frame[2];
     default:
         // Function 17 and vendor functions: the third byte is taken for a
@@ -152,13 +180,24 @@ int ModbusFrame::requestLength(const uint8_t *frame, size_t have)
     if (have < 2)
         return NeedMore;
     switch (frame[1]) {
-    case 1: case 2: case 3: case 4: case 5: case 6: case 8:
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 5:
+    case 6:
+    case 8:
         return 8;
-    case 7: case 11: case 12: case 17:
+    case 7:
+    case 11:
+    case 12:
+    case 17:
         return 4;
-    case 15: case 16:
+    case 15:
+    case 16:
         return have < 7 ? int(NeedMore) : 9 + frame[6];
-    case 20: case 21:
+    case 20:
+    case 21:
         return have < 3 ? int(NeedMore) : 5 + frame[2];
     case 22:
         return 10;
@@ -178,11 +217,18 @@ int ModbusFrame::expectedReplyLength(const uint8_t *request, size_t length)
     const int function = request[1];
     const int quantity = length >= 6 ? (request[4] << 8 | request[5]) : -1;
     switch (function) {
-    case 1: case 2:
+    case 1:
+    case 2:
         return quantity < 0 ? int(Unknown) : 5 + (quantity + 7) / 8;
-    case 3: case 4:
+    case 3:
+    case 4:
         return quantity < 0 ? int(Unknown) : 5 + 2 * quantity;
-    case 5: case 6: case 8: case 11: case 15: case 16:
+    case 5:
+    case 6:
+    case 8:
+    case 11:
+    case 15:
+    case 16:
         return 8;
     case 7:
         return 5;

@@ -1,7 +1,7 @@
 #include "modbus/modbusmemorylink.h"
 
-#include <cerrno>
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 
 void ModbusMemoryLink::appendBurst(const uint8_t *data, size_t length)

@@ -11,8 +11,7 @@ namespace {
 void sleepUs(int64_t us)
 {
     timespec ts {time_t(us / 1000000), long(us % 1000000) * 1000};
-    while (nanosleep(&ts, &ts) != 0 && errno == EINTR) {
-    }
+    while (nanosleep(&ts, &ts) != 0 && errno == EINTR) { }
 }
 
 } // namespace
@@ -30,8 +29,8 @@ int ModbusRtuBackend::send(modbus_t *ctx, const uint8_t *request, int length)
     // A frame starts after 3.5 characters of silence, or the slaves take it
     // for the tail of the previous one.
     if (ctx->lastActivityUs) {
-        const int64_t silence = ModbusFrame::frameSilenceUs(ctx->baud, ctx->dataBits, ctx->parity,
-                                                            ctx->stopBits);
+        const int64_t silence
+            = ModbusFrame::frameSilenceUs(ctx->baud, ctx->dataBits, ctx->parity, ctx->stopBits);
         const int64_t wait = ctx->lastActivityUs + silence - _modbus::nowUs();
         if (wait > 0)
             sleepUs(wait);

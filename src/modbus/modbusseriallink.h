@@ -29,7 +29,9 @@ public:
 private:
     int m_fd;
     bool m_restore = false;
-    struct termios m_saved {};
+    struct termios m_saved
+    {
+    };
 };
 
 #endif // MODBUSSERIALLINK_H

@@ -108,9 +108,9 @@ public:
     static QByteArray ascii(const QByteArray &body, char delimiter = '\n')
     {
         char out[1024];
-        const size_t n = ModbusFrame::encodeAscii(reinterpret_cast<const uint8_t *>(body.data()),
-                                                  size_t(body.size()), uint8_t(delimiter), out,
-                                                  sizeof out);
+        const size_t n
+            = ModbusFrame::encodeAscii(reinterpret_cast<const uint8_t *>(body.data()),
+                                       size_t(body.size()), uint8_t(delimiter), out, sizeof out);
         return QByteArray(out, int(n));
     }
 
@@ -140,7 +140,8 @@ private:
     {
         int done = 0;
         while (done < bytes.size() && m_master >= 0) {
-            const ssize_t rc = ::write(m_master, bytes.constData() + done, size_t(bytes.size() - done));
+            const ssize_t rc
+                = ::write(m_master, bytes.constData() + done, size_t(bytes.size() - done));
             if (rc > 0)
                 done += int(rc);
             else if (rc < 0 && errno != EINTR && errno != EAGAIN)
@@ -176,7 +177,8 @@ private:
                 // functions); a hang-up without data is waited out.
                 if (ready == 0 && !buffer.isEmpty() && m_framing == Rtu) {
                     const int length = ModbusFrame::requestLength(
-                        reinterpret_cast<const uint8_t *>(buffer.constData()), size_t(buffer.size()));
+                        reinterpret_cast<const uint8_t *>(buffer.constData()),
+                        size_t(buffer.size()));
                     if (length == ModbusFrame::Unknown)
                         answer(buffer);
                 }

@@ -96,17 +96,19 @@ void tst_ModbusFaults::readFaults_data()
 
     for (const auto framing : {FakeSlave::Rtu, FakeSlave::Ascii}) {
         const char *tag = framing == FakeSlave::Rtu ? "rtu" : "ascii";
-        const auto f = [framing](const char *hex) { return frame(framing, QByteArray::fromHex(hex)); };
+        const auto f
+            = [framing](const char *hex) { return frame(framing, QByteArray::fromHex(hex)); };
         const QByteArray good = f("01030412345678");
-        auto row = [tag](const char *name) -> QTestData & { return QTest::addRow("%s: %s", tag, name); };
+        auto row
+            = [tag](const char *name) -> QTestData & { return QTest::addRow("%s: %s", tag, name); };
 
         row("good") << int(framing) << FakeSlave::Script {{good}} << 0 << 0 << 200;
         row("no reply") << int(framing) << FakeSlave::Script {} << ETIMEDOUT
                         << responseTimeoutMs - 20 << responseTimeoutMs + 200;
         row("bad checksum") << int(framing) << FakeSlave::Script {{corrupt(framing, good)}}
                             << int(EMBBADCRC) << 0 << 200;
-        row("exception") << int(framing) << FakeSlave::Script {{f("018302")}} << int(EMBXILADD)
-                         << 0 << 200;
+        row("exception") << int(framing) << FakeSlave::Script {{f("018302")}} << int(EMBXILADD) << 0
+                         << 200;
         row("busy") << int(framing) << FakeSlave::Script {{f("018306")}} << int(EMBXSBUSY) << 0
                     << 200;
         row("exception code out of range")
@@ -119,9 +121,9 @@ void tst_ModbusFaults::readFaults_data()
             << 250;
         row("other function") << int(framing) << FakeSlave::Script {{f("01040412345678")}}
                               << int(EMBBADDATA) << 0 << 200;
-        row("three registers for two") << int(framing)
-                                       << FakeSlave::Script {{f("010306123456789ABC")}}
-                                       << int(EMBBADDATA) << 0 << 200;
+        row("three registers for two")
+            << int(framing) << FakeSlave::Script {{f("010306123456789ABC")}} << int(EMBBADDATA) << 0
+            << 200;
         row("cut off midway") << int(framing) << FakeSlave::Script {{good.left(5)}} << ETIMEDOUT
                               << byteTimeoutMs - 10 << responseTimeoutMs - 50;
         row("one byte at a time") << int(framing) << FakeSlave::Script {{good, 0, 3}} << 0 << 0
@@ -143,17 +145,18 @@ void tst_ModbusFaults::readFaults_data()
     const QByteArray good = FakeSlave::ascii(QByteArray::fromHex("01030412345678"));
     QTest::addRow("ascii: restart on ':'")
         << int(FakeSlave::Ascii) << FakeSlave::Script {{good.left(9) + good}} << 0 << 0 << 200;
-    QTest::addRow("ascii: odd length") << int(FakeSlave::Ascii)
-                                       << FakeSlave::Script {{QByteArray(":010304123\r\n")}}
-                                       << int(EMBBADDATA) << 0 << 200;
-    QTest::addRow("ascii: not hex") << int(FakeSlave::Ascii)
-                                    << FakeSlave::Script {{QByteArray(":0103G41234567800\r\n")}}
-                                    << int(EMBBADDATA) << 0 << 200;
+    QTest::addRow("ascii: odd length")
+        << int(FakeSlave::Ascii) << FakeSlave::Script {{QByteArray(":010304123\r\n")}}
+        << int(EMBBADDATA) << 0 << 200;
+    QTest::addRow("ascii: not hex")
+        << int(FakeSlave::Ascii) << FakeSlave::Script {{QByteArray(":0103G41234567800\r\n")}}
+        << int(EMBBADDATA) << 0 << 200;
     QTest::addRow("ascii: lower-case hex accepted")
         << int(FakeSlave::Ascii) << FakeSlave::Script {{good.toLower()}} << 0 << 0 << 200;
     // RTU only: a valid exception frame is exactly 5 bytes long.
     QTest::addRow("rtu: exception glued to noise")
-        << int(FakeSlave::Rtu) << FakeSlave::Script {{FakeSlave::rtu(QByteArray::fromHex("018302")) + "zz"}}
+        << int(FakeSlave::Rtu)
+        << FakeSlave::Script {{FakeSlave::rtu(QByteArray::fromHex("018302")) + "zz"}}
         << int(EMBXILADD) << 0 << 200;
 }
 
@@ -205,7 +208,9 @@ void tst_ModbusFaults::readFaults()
     // The line is usable again at once: nothing of the fault lingers.
     slave.waitIdle();
     slave.setHandler([fr](const QByteArray &) {
-        return FakeSlave::Script {{frame(fr, QByteArray::fromHex("0103040001""0002"))}};
+        return FakeSlave::Script {{frame(fr,
+                                         QByteArray::fromHex("0103040001"
+                                                             "0002"))}};
     });
     QCOMPARE(modbus_read_registers(ctx.get(), 0, 2, regs), 2);
     QCOMPARE(regs[1], uint16_t(2));
@@ -277,7 +282,8 @@ void tst_ModbusFaults::staleBytesAreDropped()
     slave.inject(FakeSlave::rtu(QByteArray::fromHex("0103040bad0bad")));
     QTest::qWait(30);
     slave.setHandler([](const QByteArray &) {
-        return FakeSlave::Script {{FakeSlave::rtu(QByteArray::fromHex("0103040001""0002"))}};
+        return FakeSlave::Script {{FakeSlave::rtu(QByteArray::fromHex("0103040001"
+                                                                      "0002"))}};
     });
     uint16_t regs[2];
     QCOMPARE(modbus_read_registers(ctx.get(), 0, 2, regs), 2);
@@ -294,7 +300,8 @@ void tst_ModbusFaults::reportSlaveIdLyingCount_data()
     const char count = char(text.size());
     for (const auto fr : {FakeSlave::Rtu, FakeSlave::Ascii}) {
         const char *tag = fr == FakeSlave::Rtu ? "rtu" : "ascii";
-        QTest::addRow("%s: honest", tag) << int(fr) << frame(fr, "\x01\x11" + QByteArray(1, count) + text) << text;
+        QTest::addRow("%s: honest", tag)
+            << int(fr) << frame(fr, "\x01\x11" + QByteArray(1, count) + text) << text;
         QTest::addRow("%s: count too small", tag)
             << int(fr) << frame(fr, "\x01\x11" + QByteArray(1, char(count - 10)) + text) << text;
         QTest::addRow("%s: count too large", tag)

@@ -39,8 +39,9 @@ void tst_ModbusFrame::checksums()
     QCOMPARE(ModbusFrame::crc16(u8(request), size_t(request.size())), uint16_t(0x8776));
     QByteArray framed = request;
     framed.resize(request.size() + 2);
-    QCOMPARE(ModbusFrame::appendCrc(reinterpret_cast<uint8_t *>(framed.data()), size_t(request.size())),
-             size_t(8));
+    QCOMPARE(
+        ModbusFrame::appendCrc(reinterpret_cast<uint8_t *>(framed.data()), size_t(request.size())),
+        size_t(8));
     QCOMPARE(framed.toHex(), QByteArray("1103006b00037687"));
     QVERIFY(ModbusFrame::crcValid(u8(framed), size_t(framed.size())));
     framed[3] = char(framed.at(3) ^ 1);
@@ -72,7 +73,8 @@ void tst_ModbusFrame::asciiCoding()
     QFETCH(QByteArray, text);
     QFETCH(int, result);
     uint8_t out[256];
-    QCOMPARE(ModbusFrame::decodeAscii(text.constData(), size_t(text.size()), out, sizeof out), result);
+    QCOMPARE(ModbusFrame::decodeAscii(text.constData(), size_t(text.size()), out, sizeof out),
+             result);
 }
 
 void tst_ModbusFrame::replyLength_data()

@@ -89,8 +89,9 @@ private:
         }
         const QString a = m_dir.filePath("master");
         const QString b = m_dir.filePath("slave");
-        m_socat.start(socat, {QString("pty,raw,echo=0,link=%1").arg(a),
-                              QString("pty,raw,echo=0,link=%1").arg(b)});
+        m_socat.start(
+            socat,
+            {QString("pty,raw,echo=0,link=%1").arg(a), QString("pty,raw,echo=0,link=%1").arg(b)});
         QElapsedTimer timer;
         timer.start();
         while (!(QFileInfo::exists(a) && QFileInfo::exists(b)) && timer.elapsed() < 3000)
@@ -238,7 +239,9 @@ void tst_ModbusPeers::functions()
         QCOMPARE(uint8_t(payload.at(1)), uint8_t(0xFF)); // run indicator
         QVERIFY(payload.mid(2).startsWith("LMB"));
     } else {
-        QCOMPARE(payload, QByteArray("\x2a" "ASCIIPEER 01\xff"));
+        QCOMPARE(payload,
+                 QByteArray("\x2a"
+                            "ASCIIPEER 01\xff"));
     }
 
     // Response times: the reply's start lies inside the exchange.
