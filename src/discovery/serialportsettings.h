@@ -34,6 +34,8 @@ public:
     int stopBits = 2;
 };
 
+Q_DECLARE_METATYPE(SerialPortProtocol)
+
 // The line settings with which a device was found or last checked; also a map key.
 class SerialPortSettings
 {
