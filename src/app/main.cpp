@@ -1,9 +1,10 @@
 #include "app/application.h"
 #include "app/debugqt.h"
+#include "app/mainwindow.h"
 #include "app/sighandler.h"
 #include "config/appsettings.h"
+#include "config/devicetemplatecatalog.h"
 
-#include <QMainWindow>
 #include <QRect>
 #include <QScreen>
 
@@ -23,9 +24,8 @@ int main(int argc, char *argv[])
 
     // TODO(traffic log): ModbusLogger::instance() goes here.
 
-    // Placeholder until the main window exists.
-    auto *window = new QMainWindow;
-    window->setWindowTitle(QStringLiteral("regdesk"));
+    DeviceTemplateCatalog::instance()->loadTemplates(AppSettings::templates_dir());
+    auto *window = new MainWindow;
 
     if (settings->isApplyCss())
         app->loadCss();
@@ -39,6 +39,7 @@ int main(int argc, char *argv[])
     const int code = app->exec();
 
     delete window;
+    DeviceTemplateCatalog::release();
     AppSettings::release();
     // TODO(traffic log): delete the ModbusLogger here.
     delete DebugQt::instance();
