@@ -4,12 +4,16 @@
 #include "config/utils.h"
 #include "exchange/byteswapper.h"
 #include "exchange/modbuslogger.h"
+#include "exchange/portthread.h"
+#include "exchange/request.h"
+#include "exchange/worker.h"
 #include "model/device.h"
 #include "model/server.h"
 #include "model/tag.h"
 #include "modbus/modbus.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QFileInfo>
 
 #include <cstring>
@@ -32,10 +36,15 @@ Port::Port(Server *server)
     setStopbits(2);
     setDatabits(8);
     setProperty("ip_address", QStringLiteral("192.168.1.100:502"));
+    for (int priority = MaxPolledDevices; priority >= 1; --priority)
+        m_priorityPool.append(priority);
 }
 
 Port::~Port()
 {
+    // The devices go after this body: nothing may poll them any more.
+    m_scheduledDevices.clear();
+    stopPortThread();
     close();
 }
 
@@ -186,6 +195,8 @@ Device *Port::addDevice(const QString &name, int index)
 void Port::removeDevice(const QString &name)
 {
     LOG_INFO << name;
+    if (Device *polled = device(name))
+        detachDeviceFromPeriodRequest(polled);
     ServerItem *item = takeChild(name);
     if (item)
         item->deleteLater();
@@ -804,4 +815,194 @@ bool Port::checkDeviceByF17(const QString &expected, int slave, int *deviceId, Q
     }
     buildTrafficLines(rx, tx);
     return ok;
+}
+
+void Port::createPortThread()
+{
+    // Whatever a former exchange left in the line is not the answer to the first poll.
+    m_portLock.acquire();
+    flush();
+    m_portLock.release();
+    m_portThread = new PortThread(this, this);
+    connect(m_portThread, &QThread::finished, m_portThread, &QObject::deleteLater);
+    connect(m_portThread, &QThread::finished, this, &Port::onPortThreadFinished);
+    connect(m_portThread, &PortThread::requestProcessed, this, &Port::requestProcessed);
+}
+
+bool Port::attachDeviceToPeriodRequest(Device *device)
+{
+    if (!device)
+        return false;
+    if (device->port() != this) {
+        LOG_INFO << "Device port is not thread port";
+        return false;
+    }
+    const bool attached = m_scheduledDevices.contains(device);
+    if (!attached && m_priorityPool.isEmpty()) {
+        const QString text = tr("Device '%1' cannot be polled: port '%2' polls at most %3 devices")
+                                 .arg(device->name(), name())
+                                 .arg(MaxPolledDevices);
+        LOG_WARN << text;
+        device->setErrorString(text);
+        device->sendModbusMessage(text);
+        return false;
+    }
+    if (!m_portThread)
+        createPortThread();
+    if (attached) {
+        if (!m_portThread->isRunning())
+            m_portThread->start(QThread::InheritPriority);
+        return m_portThread->isRunning();
+    }
+    // The tags take their priority before the scheduler, which reads it from
+    // the polling thread, knows them.
+    const int priority = m_priorityPool.takeFirst();
+    device->setPriority(priority);
+    for (Tag *tag : device->channelTagsToQueue()) {
+        if (tag)
+            tag->setPriority(priority);
+    }
+    if (!m_portThread->attachDevice(device)) {
+        m_priorityPool.prepend(priority);
+        if (m_scheduledDevices.isEmpty())
+            stopPortThread();
+        return false;
+    }
+    m_scheduledDevices.append(device);
+    m_portThread->setClearQueueIfTimeout(clearQueueIfTimeout());
+    if (!m_portThread->isRunning())
+        m_portThread->start(QThread::InheritPriority);
+    return m_portThread->isRunning();
+}
+
+bool Port::detachDeviceFromPeriodRequest(Device *device)
+{
+    if (!device || !m_scheduledDevices.contains(device))
+        return false;
+    if (m_portThread)
+        m_portThread->removeDevice(device);
+    const int priority = device->priority();
+    if (priority >= 1 && priority <= MaxPolledDevices && !m_priorityPool.contains(priority))
+        m_priorityPool.prepend(priority);
+    m_scheduledDevices.removeAll(device);
+    if (m_scheduledDevices.isEmpty())
+        stopPortThread();
+    return true;
+}
+
+void Port::stopPortThread()
+{
+    if (!m_portThread)
+        return;
+    PortThread *thread = m_portThread;
+    m_portThread = nullptr;
+    thread->quit();
+    thread->wait();
+    thread->deleteLater();
+}
+
+PortThread *Port::portThread() const
+{
+    return m_portThread;
+}
+
+bool Port::isPortThreadWorked() const
+{
+    return m_portThread && m_portThread->isRunning();
+}
+
+void Port::onPortThreadFinished()
+{
+    if (sender() == m_portThread) {
+        // Only a thread that ran its queue once ends by itself.
+        m_portThread = nullptr;
+        for (Device *device : qAsConst(m_scheduledDevices)) {
+            const int priority = device->priority();
+            if (priority >= 1 && priority <= MaxPolledDevices && !m_priorityPool.contains(priority))
+                m_priorityPool.prepend(priority);
+        }
+        m_scheduledDevices.clear();
+    }
+    emit threadFinished();
+}
+
+void Port::readDeviceTagsByThread(Device *device)
+{
+    if (!device || device->port() != this)
+        return;
+    const bool once = !m_portThread;
+    if (once)
+        createPortThread();
+    for (Tag *tag : device->tags()) {
+        if (tag->access() != Tag::ReadOnly && tag->access() != Tag::ReadWrite)
+            continue;
+        auto *request = new Request;
+        request->setTag(tag);
+        m_portThread->worker()->appendRequest(request);
+    }
+    if (once)
+        m_portThread->startOnce();
+}
+
+bool Port::processTagByThread(Tag *tag, bool write)
+{
+    if (!tag || !isPortThreadWorked())
+        return false;
+    if (!Request::isAccessCompatible(tag, write ? Request::Write : Request::Read))
+        return false;
+    PortThread *thread = m_portThread;
+    // No tick may throw the request away while the caller waits for it.
+    const bool clearQueue = thread->clearQueueIfTimeout();
+    thread->setClearQueueIfTimeout(false);
+    tag->tagRequesting();
+    bool served;
+    if (thread->tagToRequest(tag, write)) {
+        served = waitOneShot(tag, thread);
+    } else {
+        const QString text = tr("The polling queue of port '%1' is full: request of '%2' dropped")
+                                 .arg(name(), tag->name());
+        LOG_WARN << text;
+        tag->setErrorString(text);
+        tag->updateState(ResultPortError);
+        served = false;
+    }
+    thread->setClearQueueIfTimeout(clearQueue);
+    return served;
+}
+
+bool Port::waitOneShot(Tag *tag, PortThread *thread)
+{
+    // Waited in slices, so that a polling thread that has ended is noticed.
+    const int slice = 50;
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        if (tag->waitTagRequested(slice))
+            return true;
+        const bool gone = thread->isFinished() || thread->worker()->isFinished();
+        if (!gone && timer.elapsed() < m_oneShotTimeout)
+            continue;
+        if (thread->worker()->withdrawOneShot(tag) || gone) {
+            // Never exchanged: the tag is ours alone again.
+            if (tag->waitTagRequested(0))
+                return true;
+            const QString text = gone ? tr("Polling of port '%1' stopped before the request of '%2'")
+                                            .arg(name(), tag->name())
+                                      : tr("The request of '%1' waited in the polling queue of port "
+                                           "'%2' for more than %3 ms")
+                                            .arg(tag->name(), name())
+                                            .arg(m_oneShotTimeout);
+            LOG_WARN << text;
+            tag->setErrorString(text);
+            tag->updateState(ResultTimeout);
+            return false;
+        }
+        // In exchange now: it ends within the device's own timeouts.
+        if (tag->waitTagRequested(m_oneShotTimeout))
+            return true;
+        LOG_WARN << QStringLiteral("request of '%1' still in exchange after %2 ms")
+                        .arg(tag->name())
+                        .arg(timer.elapsed());
+        return false;
+    }
 }

@@ -4,10 +4,12 @@
 #include "model/serveritem.h"
 
 #include <QChar>
+#include <QPointer>
 #include <QSemaphore>
 #include <QStringList>
 
 class Device;
+class PortThread;
 class Server;
 typedef struct _modbus modbus_t;
 
@@ -112,7 +114,37 @@ public:
     static QString buildModbusString(const QString &direction, const modbus_t *ctx,
                                      const struct _modbus_msg *msg);
 
+    // Polling. A thread per port is created at the first attached device and
+    // ends with the last; the first device attached gets priority 100, the next 99...
+    static const int MaxPolledDevices = 100;
+    bool attachDeviceToPeriodRequest(Device *device);
+    bool detachDeviceFromPeriodRequest(Device *device);
+    void stopPortThread();
+    bool isPortThreadWorked() const;
+    // A one-shot exchange through the polling queue, waited for on the calling
+    // thread; false when the thread does not run or the request was not served.
+    bool processTagByThread(Tag *tag, bool write);
+    bool isDeviceAttached(Device *device) const { return m_scheduledDevices.contains(device); }
+    int scheduledDeviceCount() const { return int(m_scheduledDevices.size()); }
+    QList<Device *> scheduledDevices() const { return m_scheduledDevices; }
+    void readDeviceTagsByThread(Device *device);
+    PortThread *portThread() const;
+    QList<int> priorityPool() const { return m_priorityPool; }
+    // The longest wait of a one-shot request for its turn in the queue.
+    int oneShotTimeout() const { return m_oneShotTimeout; }
+    void setOneShotTimeout(int ms) { m_oneShotTimeout = ms > 0 ? ms : 30000; }
+
+signals:
+    void requestProcessed();
+    void threadFinished();
+
+private slots:
+    void onPortThreadFinished();
+
 private:
+    void createPortThread();
+    bool waitOneShot(Tag *tag, PortThread *thread);
+
     bool prepareExchange(const QString &name, int slave, bool clearLine, QString &rx, QString &tx);
     bool prepareCheck(const QString &label, int slave);
     bool checkFailed(int rc, const QString &expected, int slave);
@@ -121,6 +153,11 @@ private:
 
     modbus_t *m_ctx = nullptr;
     QSemaphore m_portLock;
+
+    QList<Device *> m_scheduledDevices;
+    QPointer<PortThread> m_portThread;
+    QList<int> m_priorityPool; // 100 down to 1
+    int m_oneShotTimeout = 30000;
 };
 
 #endif // PORT_H

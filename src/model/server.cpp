@@ -149,7 +149,10 @@ bool Server::hasPortWithArchivatedDevices() const
 
 bool Server::isPortsThreadWorked() const
 {
-    // Polling threads arrive with the polling engine.
+    for (const Port *port : ports()) {
+        if (port->isPortThreadWorked())
+            return true;
+    }
     return false;
 }
 
