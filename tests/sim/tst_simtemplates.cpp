@@ -48,7 +48,8 @@ QSet<QString> sharedPlaces(const QList<SimTag> &tags)
         for (const SimTag &b : tags) {
             if (&a == &b || a.isBit() != b.isBit() || (a.bitField && b.bitField))
                 continue;
-            if (a.address < b.address + unsigned(b.registers()) && b.address < a.address + unsigned(a.registers()))
+            if (a.address < b.address + unsigned(b.registers())
+                && b.address < a.address + unsigned(a.registers()))
                 shared << a.name;
         }
     }
@@ -79,12 +80,14 @@ private:
 
 void TestSimTemplates::initTestCase()
 {
-    m_files = QDir(QStringLiteral(":/templates")).entryList({QStringLiteral("*.tpl")}, QDir::Files, QDir::Name);
+    m_files = QDir(QStringLiteral(":/templates"))
+                  .entryList({QStringLiteral("*.tpl")}, QDir::Files, QDir::Name);
     QCOMPARE(m_files.size(), 65);
     QVariantList instruments;
     for (int i = 0; i < m_files.size(); ++i)
-        instruments << QVariantMap{{"address", i + 1}, {"template", m_files.at(i)}};
-    const QVariantMap map{{"line", QVariantMap{{"baudrate", 115200}}}, {"instruments", instruments}};
+        instruments << QVariantMap {{"address", i + 1}, {"template", m_files.at(i)}};
+    const QVariantMap map {{"line", QVariantMap {{"baudrate", 115200}}},
+                           {"instruments", instruments}};
     const QString path = m_dir.filePath(QStringLiteral("all.json"));
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -114,15 +117,18 @@ void TestSimTemplates::initTestCase()
         device.insert(QStringLiteral("tags"), tags);
         devices << device;
     }
-    const QVariantMap port{{"name", "sim"}, {"serial_name", m_sim.path()}, {"baudrate", 115200}, {"parity", "N"},
-                           {"databits", 8}, {"stopbits", 1}, {"devices", devices}};
+    const QVariantMap port {{"name", "sim"},      {"serial_name", m_sim.path()},
+                            {"baudrate", 115200}, {"parity", "N"},
+                            {"databits", 8},      {"stopbits", 1},
+                            {"devices", devices}};
     m_server = new Server;
-    QVERIFY(m_server->load({{"ports", QVariantList{port}}}));
+    QVERIFY(m_server->load({{"ports", QVariantList {port}}}));
     QCOMPARE(m_server->ports().size(), 1);
     QCOMPARE(m_server->ports().first()->devices().size(), 65);
     // The application sets the address after a load; the devices come in scenario order.
     for (int i = 0; i < 65; ++i)
-        m_server->ports().first()->devices().at(i)->setAddress(m_scenario.instruments.at(i).address);
+        m_server->ports().first()->devices().at(i)->setAddress(
+            m_scenario.instruments.at(i).address);
 }
 
 void TestSimTemplates::cleanupTestCase()
@@ -137,18 +143,21 @@ void TestSimTemplates::startValuesAsMeant()
     int checked = 0;
     for (const auto &ins : m_local) {
         const QString id = ins->settings().templateMap.value(QStringLiteral("name")).toString();
-        if (id.startsWith(QLatin1String("Nengshi")) || id == QLatin1String("Y510-B") || id == QLatin1String("pH-Arc-Sensors"))
+        if (id.startsWith(QLatin1String("Nengshi")) || id == QLatin1String("Y510-B")
+            || id == QLatin1String("pH-Arc-Sensors"))
             continue; // identification owns some of their registers
         const QSet<QString> shared = sharedPlaces(ins->tags());
         for (const SimTag &t : ins->tags()) {
-            if (shared.contains(t.name) || ins->isMoving(t.name) || t.deviceType == Tag::dtByteArray)
+            if (shared.contains(t.name) || ins->isMoving(t.name)
+                || t.deviceType == Tag::dtByteArray)
                 continue;
             QVariant meant = ins->startValue(t);
             if (t.bitField)
                 meant = meant.toUInt() & ((1u << (t.bitTo - t.bitFrom + 1)) - 1);
             QVERIFY2(sameValue(t.deviceType, ins->tagValue(t.name), meant),
-                     qPrintable(QStringLiteral("%1 %2: %3 instead of %4")
-                                    .arg(id, t.name, ins->tagValue(t.name).toString(), meant.toString())));
+                     qPrintable(
+                         QStringLiteral("%1 %2: %3 instead of %4")
+                             .arg(id, t.name, ins->tagValue(t.name).toString(), meant.toString())));
             ++checked;
         }
     }
@@ -169,17 +178,19 @@ void TestSimTemplates::everyTagReadsBack()
             const SimTag *simTag = ins->tag(tag->name());
             QVERIFY(simTag);
             const QVariant value = tag->read();
-            QVERIFY2(tag->lastResult() == 1, qPrintable(QStringLiteral("%1 %2: state %3, %4")
-                                                       .arg(device->name(), tag->name())
-                                                       .arg(tag->lastResult())
-                                                       .arg(tag->errorString())));
+            QVERIFY2(tag->lastResult() == 1,
+                     qPrintable(QStringLiteral("%1 %2: state %3, %4")
+                                    .arg(device->name(), tag->name())
+                                    .arg(tag->lastResult())
+                                    .arg(tag->errorString())));
             if (ins->isMoving(tag->name())) {
                 QVERIFY(std::isfinite(value.toDouble()));
             } else {
                 const QVariant expected = ins->tagValue(tag->name());
                 QVERIFY2(sameValue(simTag->deviceType, value, expected),
                          qPrintable(QStringLiteral("%1 %2: read %3, simulator holds %4")
-                                        .arg(device->name(), tag->name(), value.toString(), expected.toString())));
+                                        .arg(device->name(), tag->name(), value.toString(),
+                                             expected.toString())));
             }
             ++read;
         }
@@ -191,7 +202,8 @@ void TestSimTemplates::identification()
 {
     int checked = 0;
     for (Device *device : m_server->ports().first()->devices()) {
-        QVERIFY2(device->checkDevice(-1, -1, -1, -1), qPrintable(device->name() + QStringLiteral(": ") + device->errorString()));
+        QVERIFY2(device->checkDevice(-1, -1, -1, -1),
+                 qPrintable(device->name() + QStringLiteral(": ") + device->errorString()));
         QVERIFY(device->deviceID() != 0);
         ++checked;
     }

@@ -36,11 +36,12 @@ public:
     bool open(const QString &path, bool ascii = false, int responseMs = 500)
     {
         const QByteArray p = path.toLocal8Bit();
-        m_ctx = ascii ? modbus_new_ascii(p.constData(), 9600, 'N', 8, 1) : modbus_new_rtu(p.constData(), 9600, 'N', 8, 1);
+        m_ctx = ascii ? modbus_new_ascii(p.constData(), 9600, 'N', 8, 1)
+                      : modbus_new_rtu(p.constData(), 9600, 'N', 8, 1);
         if (!m_ctx || modbus_connect(m_ctx) != 0)
             return false;
-        const timeval response{responseMs / 1000, (responseMs % 1000) * 1000};
-        const timeval byte{0, 50000};
+        const timeval response {responseMs / 1000, (responseMs % 1000) * 1000};
+        const timeval byte {0, 50000};
         modbus_set_response_timeout(m_ctx, &response);
         modbus_set_byte_timeout(m_ctx, &byte);
         return true;
@@ -72,7 +73,8 @@ public:
     {
         modbus_set_slave(m_ctx, uint8_t(request[0]));
         QByteArray req = request;
-        if (modbus_send_raw_request(m_ctx, reinterpret_cast<uint8_t *>(req.data()), int(req.size())) < 0)
+        if (modbus_send_raw_request(m_ctx, reinterpret_cast<uint8_t *>(req.data()), int(req.size()))
+            < 0)
             return QByteArray();
         uint8_t rsp[MODBUS_MAX_ADU_LENGTH];
         const int n = modbus_receive_confirmation(m_ctx, rsp);
@@ -101,14 +103,14 @@ QByteArray bytes(std::initializer_list<int> list)
 
 QByteArray blockRequest(int slave, quint32 address, int size)
 {
-    return bytes({slave, 0x41, int(address >> 24), int(address >> 16 & 0xFF), int(address >> 8 & 0xFF),
-                  int(address & 0xFF), 0, size});
+    return bytes({slave, 0x41, int(address >> 24), int(address >> 16 & 0xFF),
+                  int(address >> 8 & 0xFF), int(address & 0xFF), 0, size});
 }
 
 QByteArray journalBlock(int slave, int channel, quint32 address, int size)
 {
-    return bytes({slave, 0x45, 0, channel, int(address >> 24), int(address >> 16 & 0xFF), int(address >> 8 & 0xFF),
-                  int(address & 0xFF), 0, size});
+    return bytes({slave, 0x45, 0, channel, int(address >> 24), int(address >> 16 & 0xFF),
+                  int(address >> 8 & 0xFF), int(address & 0xFF), 0, size});
 }
 
 QDateTime journalDate(const QByteArray &rec)
@@ -120,9 +122,82 @@ QDateTime journalDate(const QByteArray &rec)
 quint32 secondOfYear(const QDateTime &dt)
 {
     return quint32(QDate(dt.date().year(), 1, 1).daysTo(dt.date())) * 86400u
-           + quint32(dt.time().msecsSinceStartOfDay() / 1000);
+        + quint32(dt.time().msecsSinceStartOfDay() / 1000);
 }
 
+// The ring archive's documented reading: find the oldest frame at the lap
+// switch (rolling dates back over frames whose time frame was overwritten),
+// then take the records in two passes. Returns the record dates.
+QList<QDateTime> parseRing(const QByteArray &img)
+{
+    auto at = [&](int i) { return i >= 0 && i < img.size() ? uint8_t(img[i]) : uint8_t(0); };
+    auto frameDate = [&](int i) {
+        return QDateTime(QDate(1999 + at(i + 1), at(i + 2), at(i + 3)),
+                         QTime(at(i + 4), at(i + 5), at(i + 6)));
+    };
+    static const int seconds[8] = {1, 2, 5, 10, 15, 30, 60, 300};
+    QList<QDateTime> dates;
+    if (img.size() < 2 || at(1) == 0)
+        return dates;
+    const bool r0 = at(0) & 0x80;
+    int channels = (at(0) >> 4) & 3;
+    int interval = seconds[at(0) & 7];
+    int size = int(img.size());
+    int start = 0;
+    QDateTime current;
+    bool prevTime = at(0) & 0x40;
+    for (int i = 0; i < size;) {
+        const uint8_t h = at(i);
+        const int step = channels == 2 ? 8 : 4;
+        if (!(h & 0x40)) {
+            prevTime = false;
+            i += 4;
+            continue;
+        }
+        const bool r = h & 0x80;
+        if (r == r0) {
+            prevTime = true;
+            i += 8;
+            continue;
+        }
+        int k = i;
+        if (at(i + 1) == 0) {
+            while (!prevTime && k - step >= 0 && !(at(k - step) & 0x40)
+                   && bool(at(k - step) & 0x80) == r)
+                k -= step;
+            size = k;
+            break;
+        }
+        channels = (h >> 4) & 3;
+        interval = seconds[h & 7];
+        start = i;
+        if (!prevTime && bool(at(i - 4) & 0x80) == r) {
+            current = frameDate(i);
+            while (k - step >= 0 && !(at(k - step) & 0x40) && bool(at(k - step) & 0x80) == r) {
+                k -= step;
+                current = current.addSecs(-interval);
+            }
+            start = k;
+        }
+        break;
+    }
+    const QList<QPair<int, int>> passes {{start, size}, {0, start}};
+    for (const auto &pass : passes) {
+        for (int i = pass.first; i < pass.second;) {
+            const uint8_t h = at(i);
+            if (h & 0x40) {
+                current = at(i + 1) ? frameDate(i) : QDateTime();
+                i += 8;
+                continue;
+            }
+            if (current.isValid())
+                dates << current;
+            i += channels == 2 ? 8 : 4;
+            current = current.addSecs(interval);
+        }
+    }
+    return dates;
+}
 } // namespace
 
 class TestSimTransport : public QObject
@@ -170,12 +245,14 @@ void TestSimTransport::reportSlaveId_data()
     QTest::addColumn<int>("slave");
     QTest::addColumn<int>("id");
     QTest::addColumn<QString>("text");
-    QTest::newRow("long, date with colons") << 1 << 0x81 << "SimTest N042 2023 TEST 12345-07 01:02:2023 RS485";
+    QTest::newRow("long, date with colons")
+        << 1 << 0x81 << "SimTest N042 2023 TEST 12345-07 01:02:2023 RS485";
     QTest::newRow("short with firmware") << 2 << 2 << "Zolt-30 pH 30211-05 03.02.2022";
     QTest::newRow("short with date") << 3 << 3 << "Quil-82 O2 11.11.2020";
     QTest::newRow("compact Zolt30") << 4 << 4 << "Zolt30";
     QTest::newRow("compact Marn14T") << 11 << 11 << "Marn14T";
-    QTest::newRow("template date kept") << 5 << 5 << "Zolt-42 N123 2021 SIM 10203-01 01.01.2020 RS485";
+    QTest::newRow("template date kept")
+        << 5 << 5 << "Zolt-42 N123 2021 SIM 10203-01 01.01.2020 RS485";
 }
 
 void TestSimTransport::reportSlaveId()
@@ -246,7 +323,8 @@ void TestSimTransport::archiveStructureAndBlocks()
     QCOMPARE(le32(one, 3), 2024u);
     QCOMPARE(le32(one, 7), sec);
     for (int v = 0; v < 4; ++v)
-        QVERIFY(qIsFinite(qFromLittleEndian<float>(reinterpret_cast<const uchar *>(one.constData() + 11 + 4 * v))));
+        QVERIFY(qIsFinite(qFromLittleEndian<float>(
+            reinterpret_cast<const uchar *>(one.constData() + 11 + 4 * v))));
 
     // Past the end of the last archive: an exception, not data.
     quint32 total = 0;
@@ -277,7 +355,8 @@ void TestSimTransport::journal()
     QByteArray block = m_master.raw(journalBlock(2, 1, 0, 220));
     QCOMPARE(block.size(), 3 + 220);
     for (int r = 0; r < 5; ++r)
-        QCOMPARE(journalDate(block.mid(3 + 44 * r, 6)), QDateTime(QDate(2024, 3, 1), QTime(8 + r, 0)));
+        QCOMPARE(journalDate(block.mid(3 + 44 * r, 6)),
+                 QDateTime(QDate(2024, 3, 1), QTime(8 + r, 0)));
     block = m_master.raw(journalBlock(2, 1, 440, 44));
     QCOMPARE(uint8_t(block[3]), uint8_t(0xFF)); // the eleventh was never written
 
@@ -304,7 +383,8 @@ QByteArray TestSimTransport::readRing(int slave)
     QByteArray image;
     for (int i = 0; i < 512; ++i) {
         const int address = i * 64;
-        const QByteArray reply = m_master.raw(bytes({slave, 20, 7, 6, 0, 0, address >> 8, address & 0xFF, 0, 64}));
+        const QByteArray reply
+            = m_master.raw(bytes({slave, 20, 7, 6, 0, 0, address >> 8, address & 0xFF, 0, 64}));
         if (reply.size() != 133) // 135 with the checksum
             return QByteArray();
         image.append(reply.mid(5));
@@ -331,14 +411,16 @@ void TestSimTransport::ringArchive()
         if (h & 0x40) {
             QCOMPARE(i % 8, 0);
             QVERIFY(uint8_t(image[i + 1]) != 0);
-            const QDate date(1999 + uint8_t(image[i + 1]), uint8_t(image[i + 2]), uint8_t(image[i + 3]));
+            const QDate date(1999 + uint8_t(image[i + 1]), uint8_t(image[i + 2]),
+                             uint8_t(image[i + 3]));
             QVERIFY(date >= QDate(2024, 6, 1) && date < QDate(2024, 7, 1));
             ++timeFrames;
             i += 8;
         } else {
-            const quint32 w = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(image.constData() + i));
-            const double kdop = (int(w >> 19 & 0x7FF) - 512) / 10.0;   // Zolt: offset 512
-            const double kosn = (int(w >> 7 & 0xFFF) - 1024) / 100.0;  // mode 0
+            const quint32 w
+                = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(image.constData() + i));
+            const double kdop = (int(w >> 19 & 0x7FF) - 512) / 10.0; // Zolt: offset 512
+            const double kosn = (int(w >> 7 & 0xFFF) - 1024) / 100.0; // mode 0
             QVERIFY2(kdop > 16.0 && kdop < 24.0 && kosn > 5.0 && kosn < 9.0,
                      qPrintable(QStringLiteral("%1 %2 at %3").arg(kdop).arg(kosn).arg(i)));
             i += 4;
@@ -346,6 +428,13 @@ void TestSimTransport::ringArchive()
     }
     QCOMPARE(switches, 1);
     QVERIFY(timeFrames > 100);
+    // Read as documented, the records of both laps follow one another every
+    // 5 s, the oldest surviving one first.
+    QList<QDateTime> dates = parseRing(image);
+    QVERIFY(dates.size() > 7000);
+    for (int i = 1; i < dates.size(); ++i)
+        QVERIFY2(dates.at(i - 1).secsTo(dates.at(i)) == 5, qPrintable(QString::number(i)));
+    QVERIFY(dates.first() > QDateTime(QDate(2024, 6, 1), QTime(0, 0)));
 
     // Never wrapped: the first lap carries the marker, and a format label of
     // the next lap ends the written part.
@@ -362,6 +451,10 @@ void TestSimTransport::ringArchive()
     }
     QCOMPARE(label, 8 + 300 * 4 + 2 * 8);
     QCOMPARE(uint8_t(image[label]) & 0x80, 0);
+    dates = parseRing(image);
+    QCOMPARE(dates.size(), 300);
+    QCOMPARE(dates.first(), QDateTime(QDate(2024, 6, 1), QTime(0, 0)));
+    QCOMPARE(dates.last(), QDateTime(QDate(2024, 6, 1), QTime(4, 59)));
 
     // Formatted: nothing but the label.
     image = readRing(12);
@@ -372,7 +465,11 @@ void TestSimTransport::faults()
 {
     Master m;
     QVERIFY(m.open(m_sim.path(), false, 200));
-    struct Case { int slave; int error; };
+    struct Case
+    {
+        int slave;
+        int error;
+    };
     const Case cases[] = {{20, EMBXSBUSY}, {21, EMBBADCRC}, {22, ETIMEDOUT}, {23, ETIMEDOUT}};
     for (const Case &c : cases) {
         int error = 0;
@@ -412,16 +509,20 @@ void TestSimTransport::asciiLine()
 {
     SimProcess sim;
     QString why;
-    QVERIFY2(sim.start({"--template", "1:Zolt-21", "--protocol", "ascii", "--delimiter", "10"}, &why), qPrintable(why));
+    QVERIFY2(
+        sim.start({"--template", "1:Zolt-21", "--protocol", "ascii", "--delimiter", "10"}, &why),
+        qPrintable(why));
     Master m;
     QVERIFY(m.open(sim.path(), true));
     QByteArray regs = m.read(1, 3, 0, 3);
     QCOMPARE(regs.size(), 6);
-    QCOMPARE(qFromLittleEndian<quint16>(reinterpret_cast<const uchar *>(regs.constData() + 4)), quint16(1));
+    QCOMPARE(qFromLittleEndian<quint16>(reinterpret_cast<const uchar *>(regs.constData() + 4)),
+             quint16(1));
     modbus_set_slave(m.ctx(), 1);
     QCOMPARE(modbus_write_register(m.ctx(), 1, 2), 1);
     regs = m.read(1, 3, 1, 1);
-    QCOMPARE(qFromLittleEndian<quint16>(reinterpret_cast<const uchar *>(regs.constData())), quint16(2));
+    QCOMPARE(qFromLittleEndian<quint16>(reinterpret_cast<const uchar *>(regs.constData())),
+             quint16(2));
     QVERIFY(m.reportSlaveId(1).mid(2).startsWith("Zolt-21 "));
     m.close();
     QCOMPARE(sim.stop(), 0);
@@ -431,19 +532,21 @@ void TestSimTransport::lineTiming()
 {
     SimProcess sim;
     QString why;
-    QVERIFY2(sim.start({"--template", "1:Zolt-21", "--line-timing", "--baud", "9600"}, &why), qPrintable(why));
+    QVERIFY2(sim.start({"--template", "1:Zolt-21", "--line-timing", "--baud", "9600"}, &why),
+             qPrintable(why));
     Master m;
     QVERIFY(m.open(sim.path()));
     // 8 + 9 characters of 10 bits at 9600 baud and the silence between: 21 ms.
     const int64_t expectedUs = 17 * ModbusFrame::characterTimeUs(9600, 8, 'N', 1)
-                               + ModbusFrame::frameSilenceUs(9600, 8, 'N', 1);
+        + ModbusFrame::frameSilenceUs(9600, 8, 'N', 1);
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < 10; ++i)
         QCOMPARE(m.read(1, 3, 0, 2).size(), 4);
     const qint64 perRead = clock.nsecsElapsed() / 10000;
-    QVERIFY2(perRead >= expectedUs && perRead < expectedUs + 30000,
-             qPrintable(QStringLiteral("%1 us per read, line needs %2").arg(perRead).arg(expectedUs)));
+    QVERIFY2(
+        perRead >= expectedUs && perRead < expectedUs + 30000,
+        qPrintable(QStringLiteral("%1 us per read, line needs %2").arg(perRead).arg(expectedUs)));
     m.close();
     QCOMPARE(sim.stop(), 0);
 }
@@ -469,7 +572,7 @@ void TestSimTransport::randomBytesOnTheLine()
             QElapsedTimer clock;
             clock.start();
             while (!heard.contains(QByteArray::fromHex("010304123456")) && clock.elapsed() < 500) {
-                pollfd p{fd, POLLIN, 0};
+                pollfd p {fd, POLLIN, 0};
                 char buf[512];
                 if (::poll(&p, 1, 50) > 0) {
                     const ssize_t n = ::read(fd, buf, sizeof buf);
@@ -477,7 +580,8 @@ void TestSimTransport::randomBytesOnTheLine()
                         heard.append(buf, int(n));
                 }
             }
-            QVERIFY2(heard.contains(QByteArray::fromHex("010304123456")), heard.toHex(' ').constData());
+            QVERIFY2(heard.contains(QByteArray::fromHex("010304123456")),
+                     heard.toHex(' ').constData());
             modbus_flush(m.ctx());
         } else {
             QThread::msleep(40);

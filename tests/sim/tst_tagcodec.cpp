@@ -67,15 +67,19 @@ void TestTagCodec::wireBytes_data()
     QTest::addColumn<QVariant>("value");
     QTest::addColumn<QByteArray>("wire");
 
-    QTest::newRow("float swap on") << int(Tag::dtFloat32) << true << QString() << QVariant(1.0) << hex("3f800000");
-    QTest::newRow("float swap off") << int(Tag::dtFloat32) << false << QString() << QVariant(1.0) << hex("00003f80");
-    QTest::newRow("uint32 swap on, high word first") << int(Tag::dtUInt32) << true << QString()
-                                                     << QVariant(0x12345678) << hex("12345678");
-    QTest::newRow("uint32 swap off, low word first") << int(Tag::dtUInt32) << false << QString()
-                                                     << QVariant(0x12345678) << hex("56781234");
-    QTest::newRow("int16 same both ways") << int(Tag::dtInt16) << false << QString() << QVariant(-2) << hex("fffe");
-    QTest::newRow("rule 3210 on a swapping device") << int(Tag::dtFloat32) << true << QStringLiteral("3210")
-                                                    << QVariant(1.0) << hex("0000803f");
+    QTest::newRow("float swap on")
+        << int(Tag::dtFloat32) << true << QString() << QVariant(1.0) << hex("3f800000");
+    QTest::newRow("float swap off")
+        << int(Tag::dtFloat32) << false << QString() << QVariant(1.0) << hex("00003f80");
+    QTest::newRow("uint32 swap on, high word first")
+        << int(Tag::dtUInt32) << true << QString() << QVariant(0x12345678) << hex("12345678");
+    QTest::newRow("uint32 swap off, low word first")
+        << int(Tag::dtUInt32) << false << QString() << QVariant(0x12345678) << hex("56781234");
+    QTest::newRow("int16 same both ways")
+        << int(Tag::dtInt16) << false << QString() << QVariant(-2) << hex("fffe");
+    QTest::newRow("rule 3210 on a swapping device")
+        << int(Tag::dtFloat32) << true << QStringLiteral("3210") << QVariant(1.0)
+        << hex("0000803f");
 }
 
 void TestTagCodec::wireBytes()
@@ -96,19 +100,24 @@ void TestTagCodec::masterDecodesEveryEncoding_data()
     QTest::addColumn<QString>("rule");
     QTest::addColumn<QVariant>("value");
 
-    const QList<QPair<int, QVariant>> values{{Tag::dtInt16, -12345},     {Tag::dtUInt16, 54321},
-                                             {Tag::dtInt32, -123456789}, {Tag::dtUInt32, 4000000000u},
-                                             {Tag::dtFloat32, 3.25},     {Tag::dtFloat64, 0.1}};
-    const QStringList rules{QString(), QStringLiteral("1032"), QStringLiteral("3210"), QStringLiteral("2301"),
-                            QStringLiteral("76543210"), QStringLiteral("10"), QStringLiteral("01")};
+    const QList<QPair<int, QVariant>> values {
+        {Tag::dtInt16, -12345},       {Tag::dtUInt16, 54321}, {Tag::dtInt32, -123456789},
+        {Tag::dtUInt32, 4000000000u}, {Tag::dtFloat32, 3.25}, {Tag::dtFloat64, 0.1}};
+    const QStringList rules {QString(),
+                             QStringLiteral("1032"),
+                             QStringLiteral("3210"),
+                             QStringLiteral("2301"),
+                             QStringLiteral("76543210"),
+                             QStringLiteral("10"),
+                             QStringLiteral("01")};
     for (const auto &v : values) {
         for (const bool swap : {true, false}) {
             for (const QString &rule : rules) {
                 // A rule fills as many bytes as it has digits.
                 if (!rule.isEmpty() && rule.size() != Tag::deviceTypeLength(v.first))
                     continue;
-                QTest::addRow("%s swap %d rule %s", qPrintable(Tag::deviceTypeToString(v.first)), int(swap),
-                              qPrintable(rule.isEmpty() ? QStringLiteral("none") : rule))
+                QTest::addRow("%s swap %d rule %s", qPrintable(Tag::deviceTypeToString(v.first)),
+                              int(swap), qPrintable(rule.isEmpty() ? QStringLiteral("none") : rule))
                     << v.first << swap << rule << v.second;
             }
         }
@@ -150,16 +159,25 @@ void TestTagCodec::templateFields()
     // A separate member sits at its offset and swaps like the device; a
     // byte array never swaps, whatever the device does; the extended rule
     // of one built-in template reaches past the tenth byte.
-    const QVariantMap member{{"name", "b"}, {"address", "030h"}, {"type", "separate"}, {"address_offset", 2},
-                             {"registers_count", 4}, {"device_type", "float32"}, {"byteswap_enabled", false}};
+    const QVariantMap member {{"name", "b"},
+                              {"address", "030h"},
+                              {"type", "separate"},
+                              {"address_offset", 2},
+                              {"registers_count", 4},
+                              {"device_type", "float32"},
+                              {"byteswap_enabled", false}};
     const SimTag sep = TagCodec::fromTemplate(member, true);
     QCOMPARE(sep.address, 0x32u);
     QCOMPARE(sep.blockAddress, 0x30u);
     QCOMPARE(sep.blockRegisters, 4);
     QVERIFY(sep.swap);
 
-    const QVariantMap array{{"name", "sn"}, {"address", "0x0900"}, {"device_type", "bytearray"},
-                            {"array_size", 14}, {"byteorder", "1032547698!1032"}, {"byteorder_enabled", true}};
+    const QVariantMap array {{"name", "sn"},
+                             {"address", "0x0900"},
+                             {"device_type", "bytearray"},
+                             {"array_size", 14},
+                             {"byteorder", "1032547698!1032"},
+                             {"byteorder_enabled", true}};
     const SimTag text = TagCodec::fromTemplate(array, true);
     QVERIFY(!text.swap);
     QCOMPARE(text.width, 14);

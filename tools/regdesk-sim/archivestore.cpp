@@ -7,7 +7,8 @@
 
 namespace {
 
-const int periods[ArchiveStore::archiveCount] = {1, 5, 10, 30, 60, 300, 600, 1800, 3600, 10800, 21600, 43200, 86400};
+const int periods[ArchiveStore::archiveCount]
+    = {1, 5, 10, 30, 60, 300, 600, 1800, 3600, 10800, 21600, 43200, 86400};
 // A leap year of seconds: every period divides it.
 const uint32_t secondsInYear = 366u * 86400u;
 
@@ -33,7 +34,8 @@ ArchiveStore::ArchiveStore(const ArchiveSettings &settings, const QList<SignalGe
         c.noise = 0.05;
         m_curves << SignalGenerator(c, 1);
     }
-    m_total = archiveBase(archiveCount - 1) + archiveSize(archiveCount - 1) * uint32_t(m_recordSize);
+    m_total
+        = archiveBase(archiveCount - 1) + archiveSize(archiveCount - 1) * uint32_t(m_recordSize);
 }
 
 int ArchiveStore::period(int archive)
@@ -57,7 +59,8 @@ uint32_t ArchiveStore::archiveBase(int archive) const
 uint32_t ArchiveStore::secondOfYear(const QDateTime &dt)
 {
     const QDate jan1(dt.date().year(), 1, 1);
-    return uint32_t(jan1.daysTo(dt.date())) * 86400u + uint32_t(dt.time().msecsSinceStartOfDay() / 1000);
+    return uint32_t(jan1.daysTo(dt.date())) * 86400u
+        + uint32_t(dt.time().msecsSinceStartOfDay() / 1000);
 }
 
 int ArchiveStore::year() const
@@ -138,7 +141,8 @@ QByteArray ArchiveStore::handle(const QByteArray &pdu) const
     if (function == 0x41) {
         if (pdu.size() != 7)
             return Instrument::exception(function, 3);
-        const uint32_t address = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(pdu.constData() + 1));
+        const uint32_t address
+            = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(pdu.constData() + 1));
         const int size = uint8_t(pdu[6]);
         if (size < 1 || size > 250)
             return Instrument::exception(function, 3);
@@ -155,7 +159,8 @@ QByteArray ArchiveStore::handle(const QByteArray &pdu) const
         // length count registers.
         if (pdu.size() != 9 || uint8_t(pdu[1]) != 7 || uint8_t(pdu[2]) != 6)
             return Instrument::exception(function, 3);
-        const uint32_t address = 2u * qFromBigEndian<quint16>(reinterpret_cast<const uchar *>(pdu.constData() + 5));
+        const uint32_t address
+            = 2u * qFromBigEndian<quint16>(reinterpret_cast<const uchar *>(pdu.constData() + 5));
         const int words = uint8_t(pdu[8]) | uint8_t(pdu[7]) << 8;
         if (words < 1 || words > 124)
             return Instrument::exception(function, 3);

@@ -18,7 +18,7 @@
 class ArchiveStore
 {
 public:
-    static const int archiveCount = 13;
+    static constexpr int archiveCount = 13;
 
     ArchiveStore(const ArchiveSettings &settings, const QList<SignalGenerator> &curves);
 

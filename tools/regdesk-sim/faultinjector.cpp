@@ -28,8 +28,8 @@ void FaultInjector::apply(const FaultSettings &s, int function, Decision &d)
     d.truncated = d.truncated || strikes(s.truncated, count);
 }
 
-FaultInjector::Decision FaultInjector::decide(const FaultSettings &line, const FaultSettings *instrument,
-                                              int function)
+FaultInjector::Decision FaultInjector::decide(const FaultSettings &line,
+                                              const FaultSettings *instrument, int function)
 {
     Decision d;
     apply(line, function, d);

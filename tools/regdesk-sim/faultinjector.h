@@ -17,7 +17,7 @@ public:
     struct Decision
     {
         bool silence = false;
-        int busyCode = 0;          // 0: no busy exception
+        int busyCode = 0; // 0: no busy exception
         bool badChecksum = false;
         bool garbage = false;
         bool wrongAddress = false;

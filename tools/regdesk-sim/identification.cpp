@@ -31,8 +31,9 @@ Identification::Identification(const InstrumentSettings &settings, const QList<S
 {
     const QVariantMap device = settings.templateMap.value(QStringLiteral("device")).toMap();
     // As the master loads it: without a modbus_id the template's name stands in.
-    m_modbusId = device.contains(QStringLiteral("modbus_id")) ? device.value(QStringLiteral("modbus_id")).toString()
-                                                                : device.value(QStringLiteral("template")).toString();
+    m_modbusId = device.contains(QStringLiteral("modbus_id"))
+        ? device.value(QStringLiteral("modbus_id")).toString()
+        : device.value(QStringLiteral("template")).toString();
     m_templateName = settings.templateMap.value(QStringLiteral("name")).toString();
     m_templateDate = device.value(QStringLiteral("firmware_date")).toString();
 
@@ -69,10 +70,11 @@ QString Identification::replyText() const
     if (s.form == QLatin1String("compact"))
         return model;
     if (s.form == QLatin1String("short"))
-        return QStringList{model, s.text, s.firmware, date}.join(QLatin1Char(' '));
+        return QStringList {model, s.text, s.firmware, date}.join(QLatin1Char(' '));
     if (s.form == QLatin1String("short_date"))
-        return QStringList{model, s.text, date}.join(QLatin1Char(' '));
-    return QStringList{model, s.serial, s.year, s.text, s.firmware, date, s.tail}.join(QLatin1Char(' '));
+        return QStringList {model, s.text, date}.join(QLatin1Char(' '));
+    return QStringList {model, s.serial, s.year, s.text, s.firmware, date, s.tail}.join(
+        QLatin1Char(' '));
 }
 
 void Identification::prepare(RegisterMap &map) const
@@ -104,14 +106,16 @@ void Identification::prepare(RegisterMap &map) const
                 given = true;
         }
         if (!given) {
-            const bool conductivity = m_templateName.contains(QLatin1String("CON"), Qt::CaseInsensitive);
+            const bool conductivity
+                = m_templateName.contains(QLatin1String("CON"), Qt::CaseInsensitive);
             map.setReg(1, uint16_t((map.reg(1) & 0xFF00) | (conductivity ? 7 : 10)));
         }
         break;
     }
     case Y510B: {
         // Read back through a pair swap, so the text lies as it reads.
-        const QString text = s.sensorText.isEmpty() ? QStringLiteral("Y510-B ") + s.serial : s.sensorText;
+        const QString text
+            = s.sensorText.isEmpty() ? QStringLiteral("Y510-B ") + s.serial : s.sensorText;
         map.coverRegisters(2304, 7, RegisterMap::ReadHolding);
         map.setWire(2304, padded(text.toLatin1(), 14));
         break;

@@ -56,9 +56,12 @@ Instrument::Instrument(const InstrumentSettings &settings, int readOnlyException
     if (m_settings.archives.enabled)
         m_archives = std::make_unique<ArchiveStore>(m_settings.archives, curves);
     if (m_settings.journal.enabled)
-        m_journal = std::make_unique<JournalStore>(m_settings.journal,
-                                                   m_settings.templateMap.value(QStringLiteral("device")).toMap()
-                                                       .value(QStringLiteral("template")).toString());
+        m_journal
+            = std::make_unique<JournalStore>(m_settings.journal,
+                                             m_settings.templateMap.value(QStringLiteral("device"))
+                                                 .toMap()
+                                                 .value(QStringLiteral("template"))
+                                                 .toString());
     if (m_settings.ring.enabled)
         m_ring = std::make_unique<RingArchive>(m_settings.ring, m_identification->modbusId());
 }
@@ -99,8 +102,8 @@ void Instrument::buildMap()
 {
     const QVariantMap device = m_settings.templateMap.value(QStringLiteral("device")).toMap();
     m_deviceSwap = device.contains(QStringLiteral("byteswap_enabled"))
-                       ? device.value(QStringLiteral("byteswap_enabled")).toBool()
-                       : true;
+        ? device.value(QStringLiteral("byteswap_enabled")).toBool()
+        : true;
     const QVariantList tags = device.value(QStringLiteral("tags")).toList();
     for (const QVariant &entry : tags) {
         SimTag t = TagCodec::fromTemplate(entry.toMap(), m_deviceSwap);
@@ -132,8 +135,8 @@ void Instrument::buildMap()
         if (value.isValid())
             writeTag(t, value);
         const bool moving = m_settings.curves.contains(t.name)
-                            || (t.isChannel() && t.name.startsWith(QLatin1String("ch"))
-                                && (t.isFloat() || isIntegral(t.deviceType)) && !t.bitField);
+            || (t.isChannel() && t.name.startsWith(QLatin1String("ch"))
+                && (t.isFloat() || isIntegral(t.deviceType)) && !t.bitField);
         if (!moving)
             continue;
         const uint32_t salt = stableHash(t.name) ^ uint32_t(m_settings.address * 7919);
@@ -143,11 +146,15 @@ void Instrument::buildMap()
         } else {
             curve = SignalGenerator::curveFor(value.toDouble(), t.hasLimits, t.low, t.high, salt);
             const QString lower = t.name.toLower();
-            if (t.isFloat() && (lower.contains(QLatin1String("_t_")) || lower.endsWith(QLatin1String("_t_value")))) {
+            if (t.isFloat()
+                && (lower.contains(QLatin1String("_t_"))
+                    || lower.endsWith(QLatin1String("_t_value")))) {
                 curve.base = 21.0; // temperatures move little around the room's
                 curve.amplitude = 1.5;
                 curve.noise = 0.05;
-            } else if (t.isFloat() && (lower.contains(QLatin1String("current_output")) || lower.contains(QLatin1String("_i_value")))) {
+            } else if (t.isFloat()
+                       && (lower.contains(QLatin1String("current_output"))
+                           || lower.contains(QLatin1String("_i_value")))) {
                 curve.base = 12.0;
                 curve.amplitude = 3.0;
                 curve.noise = 0.02;

@@ -32,8 +32,10 @@ JournalStore::JournalStore(const JournalSettings &settings, const QString &templ
     const qint64 step = qint64(settings.stepMinutes) * 60;
     if (settings.wrapped) {
         m_count = capacity;
-        m_newest = settings.newest >= 0 && settings.newest < capacity ? uint32_t(settings.newest) : 100u;
-    } else if (settings.newest == int(emptyIndex) || (settings.newest < 0 && settings.records == 0)) {
+        m_newest
+            = settings.newest >= 0 && settings.newest < capacity ? uint32_t(settings.newest) : 100u;
+    } else if (settings.newest == int(emptyIndex)
+               || (settings.newest < 0 && settings.records == 0)) {
         m_count = 0;
         m_newest = emptyIndex;
     } else {
@@ -91,7 +93,8 @@ bool JournalStore::written(int index) const
 QDateTime JournalStore::recordDate(int index) const
 {
     // Oldest first: behind the newest lies the previous lap of a full ring.
-    const int rank = m_count == capacity ? (index - int(m_newest) - 1 + capacity) % capacity : index;
+    const int rank
+        = m_count == capacity ? (index - int(m_newest) - 1 + capacity) % capacity : index;
     return m_first.addSecs(qint64(rank) * m_settings.stepMinutes * 60);
 }
 
@@ -183,7 +186,8 @@ QByteArray JournalStore::handle(const QByteArray &pdu) const
         QByteArray reply(10, '\0');
         reply[0] = char(0x46);
         reply[1] = char(8);
-        qToLittleEndian<quint32>(uint32_t(m_recordSize), reinterpret_cast<uchar *>(reply.data() + 2));
+        qToLittleEndian<quint32>(uint32_t(m_recordSize),
+                                 reinterpret_cast<uchar *>(reply.data() + 2));
         qToLittleEndian<quint32>(m_newest, reinterpret_cast<uchar *>(reply.data() + 6));
         return reply;
     }
@@ -191,7 +195,8 @@ QByteArray JournalStore::handle(const QByteArray &pdu) const
         if (pdu.size() != 9)
             return Instrument::exception(function, 3);
         const int channel = uint8_t(pdu[2]);
-        const uint32_t address = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(pdu.constData() + 3));
+        const uint32_t address
+            = qFromBigEndian<quint32>(reinterpret_cast<const uchar *>(pdu.constData() + 3));
         const int size = uint8_t(pdu[8]);
         if (size < 1 || size > 250)
             return Instrument::exception(function, 3);

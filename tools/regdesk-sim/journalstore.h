@@ -15,8 +15,8 @@ class JournalStore
 {
 public:
     enum Family { PH, Ion, Oxygen, Sodium, OxygenShort };
-    static const int capacity = 999;
-    static const uint32_t emptyIndex = 1000;
+    static constexpr int capacity = 999;
+    static constexpr uint32_t emptyIndex = 1000;
 
     JournalStore(const JournalSettings &settings, const QString &templateName);
 
@@ -39,7 +39,7 @@ private:
     Family m_family;
     int m_recordSize;
     uint32_t m_newest;
-    int m_count;         // records written, in the order of the ring
+    int m_count; // records written, in the order of the ring
     QDateTime m_first;
 };
 

@@ -44,6 +44,9 @@ QList<QByteArray> LineFramer::feed(const QByteArray &data)
     if (m_protocol == 1)
         return feedAscii(data);
     m_buffer.append(data);
+    // A line that never falls silent: no frame is longer than this.
+    if (m_buffer.size() > 8 * maxRtuFrame)
+        m_buffer.remove(0, m_buffer.size() - 2 * maxRtuFrame);
     return parseRtu(false);
 }
 
@@ -63,15 +66,12 @@ QList<QByteArray> LineFramer::parseRtu(bool atSilence)
         const int have = int(m_buffer.size());
         int length = requestLength(bytes(m_buffer), have);
         if (length < 0) {
-            // No length rule: the shortest run that checks is the frame.
-            length = 0;
-            for (int n = 4; n <= qMin(have, maxRtuFrame); ++n) {
-                if (ModbusFrame::crcValid(bytes(m_buffer), size_t(n))) {
-                    length = n;
-                    break;
-                }
-            }
-            if (length == 0) {
+            // No length rule: the frame runs to the end of what has come, as
+            // a silence would end it. One checksum per place keeps a long run
+            // of garbage cheap.
+            if (have <= maxRtuFrame && ModbusFrame::crcValid(bytes(m_buffer), size_t(have))) {
+                length = have;
+            } else {
                 if (!atSilence && have < maxRtuFrame)
                     break;
                 m_buffer.remove(0, 1);
@@ -111,8 +111,8 @@ QList<QByteArray> LineFramer::feedAscii(const QByteArray &data)
         if (m_sawCr) {
             if (c == m_delimiter) {
                 uint8_t decoded[256];
-                const int n = ModbusFrame::decodeAscii(m_buffer.constData(), size_t(m_buffer.size()), decoded,
-                                                       sizeof decoded);
+                const int n = ModbusFrame::decodeAscii(
+                    m_buffer.constData(), size_t(m_buffer.size()), decoded, sizeof decoded);
                 if (n >= 3 && ModbusFrame::lrcValid(decoded, size_t(n)))
                     frames << QByteArray(reinterpret_cast<const char *>(decoded), n - 1);
             }
@@ -138,8 +138,8 @@ QByteArray LineFramer::encode(const QByteArray &adu, bool badChecksum) const
 {
     if (m_protocol == 1) {
         QByteArray out(1 + 2 * (adu.size() + 1) + 2, '\0');
-        const size_t n = ModbusFrame::encodeAscii(bytes(adu), size_t(adu.size()), uint8_t(m_delimiter),
-                                                  out.data(), size_t(out.size()));
+        const size_t n = ModbusFrame::encodeAscii(
+            bytes(adu), size_t(adu.size()), uint8_t(m_delimiter), out.data(), size_t(out.size()));
         out.truncate(int(n));
         if (badChecksum && n > 4) {
             const uint8_t wrong = uint8_t(ModbusFrame::lrc(bytes(adu), size_t(adu.size())) ^ 0x5A);

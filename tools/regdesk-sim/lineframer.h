@@ -27,8 +27,8 @@ public:
     // -1 no rule (the vendor functions of the instruments are known here).
     static int requestLength(const uint8_t *frame, int have);
 
-    static const int maxRtuFrame = 256;
-    static const int maxAsciiFrame = 513;
+    static constexpr int maxRtuFrame = 256;
+    static constexpr int maxAsciiFrame = 513;
 
 private:
     QList<QByteArray> parseRtu(bool atSilence);

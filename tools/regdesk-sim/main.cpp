@@ -45,9 +45,8 @@ void sleepUs(int64_t us)
 {
     if (us <= 0)
         return;
-    timespec ts{time_t(us / 1000000), long(us % 1000000) * 1000};
-    while (!g_stop && nanosleep(&ts, &ts) != 0 && errno == EINTR) {
-    }
+    timespec ts {time_t(us / 1000000), long(us % 1000000) * 1000};
+    while (!g_stop && nanosleep(&ts, &ts) != 0 && errno == EINTR) { }
 }
 
 int fail(const QString &text)
@@ -64,26 +63,50 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationName(QStringLiteral("regdesk-sim"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("A virtual bus of Modbus instruments for tests, demos and training."));
+    parser.setApplicationDescription(
+        QStringLiteral("A virtual bus of Modbus instruments for tests, demos and training."));
     parser.addHelpOption();
-    const QCommandLineOption scenarioOpt(QStringLiteral("scenario"), QStringLiteral("Scenario file (JSON)."), QStringLiteral("file"));
-    const QCommandLineOption templateOpt(QStringLiteral("template"),
-                                         QStringLiteral("An instrument without a scenario, as address:template; repeatable."),
-                                         QStringLiteral("addr:name"));
-    const QCommandLineOption linkOpt(QStringLiteral("link"), QStringLiteral("Symbolic link to the pseudo-terminal."), QStringLiteral("path"));
-    const QCommandLineOption deviceOpt(QStringLiteral("device"), QStringLiteral("Serve a real serial device instead of a pseudo-terminal."), QStringLiteral("path"));
-    const QCommandLineOption protocolOpt(QStringLiteral("protocol"), QStringLiteral("rtu or ascii."), QStringLiteral("name"));
-    const QCommandLineOption delimiterOpt(QStringLiteral("delimiter"), QStringLiteral("ASCII frame end after CR (default 10)."), QStringLiteral("code"));
-    const QCommandLineOption baudOpt(QStringLiteral("baud"), QStringLiteral("Baud rate."), QStringLiteral("rate"));
-    const QCommandLineOption parityOpt(QStringLiteral("parity"), QStringLiteral("N, E or O."), QStringLiteral("p"));
-    const QCommandLineOption dataBitsOpt(QStringLiteral("databits"), QStringLiteral("7 or 8."), QStringLiteral("n"));
-    const QCommandLineOption stopBitsOpt(QStringLiteral("stopbits"), QStringLiteral("1 or 2."), QStringLiteral("n"));
-    const QCommandLineOption timingOpt(QStringLiteral("line-timing"), QStringLiteral("Take as long per frame as a real line at the baud rate."));
-    const QCommandLineOption seedOpt(QStringLiteral("seed"), QStringLiteral("Seed of the fault injection."), QStringLiteral("n"));
-    const QCommandLineOption verboseOpt(QStringLiteral("verbose"), QStringLiteral("Log every frame on standard error."));
-    const QCommandLineOption checkOpt(QStringLiteral("check"), QStringLiteral("Load the scenario, list the instruments and quit."));
-    parser.addOptions({scenarioOpt, templateOpt, linkOpt, deviceOpt, protocolOpt, delimiterOpt, baudOpt, parityOpt,
-                       dataBitsOpt, stopBitsOpt, timingOpt, seedOpt, verboseOpt, checkOpt});
+    const QCommandLineOption scenarioOpt(QStringLiteral("scenario"),
+                                         QStringLiteral("Scenario file (JSON)."),
+                                         QStringLiteral("file"));
+    const QCommandLineOption templateOpt(
+        QStringLiteral("template"),
+        QStringLiteral("An instrument without a scenario, as address:template; repeatable."),
+        QStringLiteral("addr:name"));
+    const QCommandLineOption linkOpt(QStringLiteral("link"),
+                                     QStringLiteral("Symbolic link to the pseudo-terminal."),
+                                     QStringLiteral("path"));
+    const QCommandLineOption deviceOpt(
+        QStringLiteral("device"),
+        QStringLiteral("Serve a real serial device instead of a pseudo-terminal."),
+        QStringLiteral("path"));
+    const QCommandLineOption protocolOpt(QStringLiteral("protocol"),
+                                         QStringLiteral("rtu or ascii."), QStringLiteral("name"));
+    const QCommandLineOption delimiterOpt(QStringLiteral("delimiter"),
+                                          QStringLiteral("ASCII frame end after CR (default 10)."),
+                                          QStringLiteral("code"));
+    const QCommandLineOption baudOpt(QStringLiteral("baud"), QStringLiteral("Baud rate."),
+                                     QStringLiteral("rate"));
+    const QCommandLineOption parityOpt(QStringLiteral("parity"), QStringLiteral("N, E or O."),
+                                       QStringLiteral("p"));
+    const QCommandLineOption dataBitsOpt(QStringLiteral("databits"), QStringLiteral("7 or 8."),
+                                         QStringLiteral("n"));
+    const QCommandLineOption stopBitsOpt(QStringLiteral("stopbits"), QStringLiteral("1 or 2."),
+                                         QStringLiteral("n"));
+    const QCommandLineOption timingOpt(
+        QStringLiteral("line-timing"),
+        QStringLiteral("Take as long per frame as a real line at the baud rate."));
+    const QCommandLineOption seedOpt(QStringLiteral("seed"),
+                                     QStringLiteral("Seed of the fault injection."),
+                                     QStringLiteral("n"));
+    const QCommandLineOption verboseOpt(QStringLiteral("verbose"),
+                                        QStringLiteral("Log every frame on standard error."));
+    const QCommandLineOption checkOpt(
+        QStringLiteral("check"),
+        QStringLiteral("Load the scenario, list the instruments and quit."));
+    parser.addOptions({scenarioOpt, templateOpt, linkOpt, deviceOpt, protocolOpt, delimiterOpt,
+                       baudOpt, parityOpt, dataBitsOpt, stopBitsOpt, timingOpt, seedOpt, verboseOpt,
+                       checkOpt});
     parser.process(app);
 
     Scenario scenario;
@@ -96,11 +119,13 @@ int main(int argc, char *argv[])
         for (const QString &spec : parser.values(templateOpt)) {
             const int colon = spec.indexOf(QLatin1Char(':'));
             if (colon < 1)
-                return fail(QStringLiteral("--template wants address:template, not '%1'").arg(spec));
-            instruments << QVariantMap{{QStringLiteral("address"), spec.left(colon).toInt()},
-                                       {QStringLiteral("template"), spec.mid(colon + 1)}};
+                return fail(
+                    QStringLiteral("--template wants address:template, not '%1'").arg(spec));
+            instruments << QVariantMap {{QStringLiteral("address"), spec.left(colon).toInt()},
+                                        {QStringLiteral("template"), spec.mid(colon + 1)}};
         }
-        if (!Scenario::fromMap({{QStringLiteral("instruments"), instruments}}, QDir::currentPath(), scenario, error))
+        if (!Scenario::fromMap({{QStringLiteral("instruments"), instruments}}, QDir::currentPath(),
+                               scenario, error))
             return fail(error);
     } else {
         return fail(QStringLiteral("give --scenario or --template (see --help)"));
@@ -138,7 +163,8 @@ int main(int argc, char *argv[])
     bus.setVerbose(parser.isSet(verboseOpt));
     if (parser.isSet(checkOpt)) {
         for (const Instrument *ins : bus.instruments())
-            std::printf("%d %s %d tags\n", ins->address(), qPrintable(ins->name()), int(ins->tags().size()));
+            std::printf("%d %s %d tags\n", ins->address(), qPrintable(ins->name()),
+                        int(ins->tags().size()));
         return 0;
     }
 
@@ -148,17 +174,19 @@ int main(int argc, char *argv[])
         return fail(error);
     std::printf("%s\n", qPrintable(port.path()));
     std::fflush(stdout);
-    std::fprintf(stderr, "regdesk-sim: %d instrument(s) on %s%s%s, %s %d %d%c%d%s\n", int(scenario.instruments.size()),
-                 qPrintable(port.path()), line.link.isEmpty() ? "" : " -> ", qPrintable(line.link),
-                 line.protocol ? "ASCII" : "RTU", line.baudrate, line.dataBits, line.parity, line.stopBits,
-                 line.lineTiming ? ", line timing" : "");
+    std::fprintf(stderr, "regdesk-sim: %d instrument(s) on %s%s%s, %s %d %d%c%d%s\n",
+                 int(scenario.instruments.size()), qPrintable(port.path()),
+                 line.link.isEmpty() ? "" : " -> ", qPrintable(line.link),
+                 line.protocol ? "ASCII" : "RTU", line.baudrate, line.dataBits, line.parity,
+                 line.stopBits, line.lineTiming ? ", line timing" : "");
 
     const int silenceMs = int(qMax<int64_t>(20, port.silenceUs() / 1000));
     int status = 0;
     bool hungUp = false;
     while (!g_stop) {
         QByteArray in;
-        const SimLine::ReadResult result = port.read(in, bus.framer().hasPending() ? silenceMs : 250);
+        const SimLine::ReadResult result
+            = port.read(in, bus.framer().hasPending() ? silenceMs : 250);
         QList<QByteArray> frames;
         if (result == SimLine::Data) {
             hungUp = false;
@@ -182,7 +210,8 @@ int main(int argc, char *argv[])
             const SimBus::Reply reply = bus.process(frame);
             int64_t waitUs = int64_t(reply.delayMs) * 1000;
             if (line.lineTiming && !reply.bytes.isEmpty())
-                waitUs += port.charactersUs(reply.requestChars) + port.silenceUs() + port.charactersUs(int(reply.bytes.size()));
+                waitUs += port.charactersUs(reply.requestChars) + port.silenceUs()
+                    + port.charactersUs(int(reply.bytes.size()));
             sleepUs(waitUs);
             if (g_stop)
                 break;
@@ -191,7 +220,7 @@ int main(int argc, char *argv[])
         }
     }
     port.close();
-    std::fprintf(stderr, "regdesk-sim: stopped after %lld requests, %lld replies\n", (long long)bus.requests(),
-                 (long long)bus.replies());
+    std::fprintf(stderr, "regdesk-sim: stopped after %lld requests, %lld replies\n",
+                 (long long)bus.requests(), (long long)bus.replies());
     return status;
 }

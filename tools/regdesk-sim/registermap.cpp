@@ -75,7 +75,8 @@ void RegisterMap::setWire(unsigned address, const QByteArray &bytes)
 {
     for (int i = 0; i < bytes.size(); i += 2) {
         const uint16_t high = uint8_t(bytes[i]);
-        const uint16_t low = i + 1 < bytes.size() ? uint8_t(bytes[i + 1]) : uint8_t(reg(address + i / 2) & 0xFF);
+        const uint16_t low
+            = i + 1 < bytes.size() ? uint8_t(bytes[i + 1]) : uint8_t(reg(address + i / 2) & 0xFF);
         setReg(address + i / 2, uint16_t(high << 8 | low));
     }
 }

@@ -13,10 +13,10 @@ class RegisterMap
 {
 public:
     enum Flag {
-        ReadHolding = 1,  // function 3
-        ReadInput = 2,    // function 4
-        Write = 4,        // functions 6 and 16 (5 and 15 for bits)
-        ReadBit = 8,      // functions 1 and 2
+        ReadHolding = 1, // function 3
+        ReadInput = 2, // function 4
+        Write = 4, // functions 6 and 16 (5 and 15 for bits)
+        ReadBit = 8, // functions 1 and 2
     };
 
     RegisterMap();
@@ -38,7 +38,7 @@ public:
     bool bit(unsigned address) const { return address < size && m_bits[address]; }
     void setBit(unsigned address, bool on);
 
-    static const unsigned size = 65536;
+    static constexpr unsigned size = 65536;
 
 private:
     std::vector<uint16_t> m_regs;

@@ -34,12 +34,14 @@ int RingArchive::intervalSeconds(int code)
 
 QDateTime RingArchive::lastDate() const
 {
-    return m_first.addSecs(qint64(qMax(0, m_records - 1)) * intervalSeconds(m_settings.intervalCode));
+    return m_first.addSecs(qint64(qMax(0, m_records - 1))
+                           * intervalSeconds(m_settings.intervalCode));
 }
 
 double RingArchive::mainValue(int record, int channel) const
 {
-    const double v = 7.0 + 1.5 * std::sin(record / 50.0 + channel) + 0.01 * ((record * 7 + channel) % 5);
+    const double v
+        = 7.0 + 1.5 * std::sin(record / 50.0 + channel) + 0.01 * ((record * 7 + channel) % 5);
     return std::round(v * 100.0) / 100.0;
 }
 
@@ -52,7 +54,8 @@ double RingArchive::temperature(int record, int channel) const
 QByteArray RingArchive::timeFrame(bool r, const QDateTime &dt) const
 {
     QByteArray f(8, '\0');
-    f[0] = char((r ? 0x80 : 0) | 0x40 | (m_settings.channels & 3) << 4 | (m_settings.intervalCode & 0x0F));
+    f[0] = char((r ? 0x80 : 0) | 0x40 | (m_settings.channels & 3) << 4
+                | (m_settings.intervalCode & 0x0F));
     f[1] = char(dt.date().year() - 1999);
     f[2] = char(dt.date().month());
     f[3] = char(dt.date().day());
@@ -69,9 +72,11 @@ QByteArray RingArchive::timeFrame(bool r, const QDateTime &dt) const
 QByteArray RingArchive::dataFrame(bool r, int record, int channel) const
 {
     const int offset = m_zolt ? 512 : 128;
-    const uint32_t kdop = uint32_t(qBound(0, int(std::lround(temperature(record, channel) * 10.0)) + offset, 2047));
+    const uint32_t kdop
+        = uint32_t(qBound(0, int(std::lround(temperature(record, channel) * 10.0)) + offset, 2047));
     const double v = mainValue(record, channel);
-    int kosn = m_settings.mode == 1 ? int(std::lround(v)) + (m_zolt ? 1024 : 0) : int(std::lround(v * 100.0)) + 1024;
+    int kosn = m_settings.mode == 1 ? int(std::lround(v)) + (m_zolt ? 1024 : 0)
+                                    : int(std::lround(v * 100.0)) + 1024;
     const int kosnBits = m_zolt ? 12 : 13;
     kosn = qBound(0, kosn, (1 << kosnBits) - 1);
     const uint32_t w = (r ? 0x80000000u : 0u) | kdop << 19 | uint32_t(kosn) << (m_zolt ? 7 : 6);
@@ -101,8 +106,8 @@ void RingArchive::write()
         records = qMax<qint64>(records, perLap * 13 / 10);
     const int interval = intervalSeconds(m_settings.intervalCode);
     m_first = m_settings.start.isValid()
-                  ? m_settings.start
-                  : QDateTime::currentDateTime().addSecs(-qint64(records) * interval);
+        ? m_settings.start
+        : QDateTime::currentDateTime().addSecs(-qint64(records) * interval);
 
     qint64 p = 0;
     bool needTime = true;
@@ -143,7 +148,8 @@ QByteArray RingArchive::handle(const QByteArray &pdu) const
         return Instrument::exception(function, 1);
     if (pdu.size() != 9 || uint8_t(pdu[1]) != 7 || uint8_t(pdu[2]) != 6)
         return Instrument::exception(function, 3);
-    const int address = 2 * int(qFromBigEndian<quint16>(reinterpret_cast<const uchar *>(pdu.constData() + 5)));
+    const int address
+        = 2 * int(qFromBigEndian<quint16>(reinterpret_cast<const uchar *>(pdu.constData() + 5)));
     const int words = uint8_t(pdu[8]) | uint8_t(pdu[7]) << 8;
     if (words < 1 || words > 124)
         return Instrument::exception(function, 3);

@@ -16,7 +16,7 @@
 class RingArchive
 {
 public:
-    static const int imageSize = 65536;
+    static constexpr int imageSize = 65536;
 
     RingArchive(const RingSettings &settings, const QString &modbusId);
 

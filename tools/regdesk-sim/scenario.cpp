@@ -31,7 +31,8 @@ FaultSettings faultSettings(const QVariantMap &m)
     FaultSettings f;
     f.busy = faultSpec(m.value(QStringLiteral("busy")));
     if (m.value(QStringLiteral("busy")).typeId() == QMetaType::QVariantMap) {
-        const QVariantList codes = m.value(QStringLiteral("busy")).toMap().value(QStringLiteral("codes")).toList();
+        const QVariantList codes
+            = m.value(QStringLiteral("busy")).toMap().value(QStringLiteral("codes")).toList();
         if (!codes.isEmpty()) {
             f.busyCodes.clear();
             for (const QVariant &c : codes)
@@ -102,7 +103,7 @@ bool readJsonFile(const QString &path, QVariantMap &out, QString &error)
 bool FaultSettings::active() const
 {
     return busy.active() || badChecksum.active() || silence.active() || garbage.active()
-           || wrongAddress.active() || truncated.active();
+        || wrongAddress.active() || truncated.active();
 }
 
 QVariantMap Scenario::loadTemplate(const QString &ref, const QString &baseDir, QString &error)
@@ -155,7 +156,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
     LineSettings &l = out.line;
     l.device = line.value(QStringLiteral("device")).toString();
     l.link = line.value(QStringLiteral("link")).toString();
-    const QString protocol = line.value(QStringLiteral("protocol"), QStringLiteral("RTU")).toString();
+    const QString protocol
+        = line.value(QStringLiteral("protocol"), QStringLiteral("RTU")).toString();
     if (protocol.compare(QLatin1String("ascii"), Qt::CaseInsensitive) == 0)
         l.protocol = 1;
     else if (protocol.compare(QLatin1String("rtu"), Qt::CaseInsensitive) == 0)
@@ -166,7 +168,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
     }
     l.delimiter = line.value(QStringLiteral("delimiter"), 10).toInt() & 0xFF;
     l.baudrate = line.value(QStringLiteral("baudrate"), 9600).toInt();
-    const QString parity = line.value(QStringLiteral("parity"), QStringLiteral("N")).toString().toUpper();
+    const QString parity
+        = line.value(QStringLiteral("parity"), QStringLiteral("N")).toString().toUpper();
     l.parity = parity.isEmpty() ? 'N' : parity.at(0).toLatin1();
     l.dataBits = line.value(QStringLiteral("databits"), 8).toInt();
     l.stopBits = line.value(QStringLiteral("stopbits"), 1).toInt();
@@ -174,8 +177,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
     l.replyDelayMs = qMax(0, line.value(QStringLiteral("reply_delay_ms"), 0).toInt());
     l.readOnlyException = line.value(QStringLiteral("readonly_exception"), 2).toInt();
     l.seed = line.value(QStringLiteral("seed"), 1).toUInt();
-    if (l.baudrate <= 0 || (l.parity != 'N' && l.parity != 'E' && l.parity != 'O')
-        || l.dataBits < 7 || l.dataBits > 8 || l.stopBits < 1 || l.stopBits > 2) {
+    if (l.baudrate <= 0 || (l.parity != 'N' && l.parity != 'E' && l.parity != 'O') || l.dataBits < 7
+        || l.dataBits > 8 || l.stopBits < 1 || l.stopBits > 2) {
         error = QStringLiteral("invalid line settings");
         return false;
     }
@@ -196,7 +199,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
         ins.templateMap = loadTemplate(ins.templateRef, baseDir, error);
         if (ins.templateMap.isEmpty())
             return false;
-        ins.name = m.value(QStringLiteral("name"), ins.templateMap.value(QStringLiteral("name"))).toString();
+        ins.name = m.value(QStringLiteral("name"), ins.templateMap.value(QStringLiteral("name")))
+                       .toString();
         ins.values = m.value(QStringLiteral("values")).toMap();
         const QVariantMap channels = m.value(QStringLiteral("channels")).toMap();
         for (auto it = channels.cbegin(); it != channels.cend(); ++it)
@@ -222,7 +226,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
             const QVariantMap a = m.value(QStringLiteral("archives")).toMap();
             ArchiveSettings &as = ins.archives;
             as.enabled = true;
-            as.valuesPerRecord = qBound(1, a.value(QStringLiteral("values_per_record"), 4).toInt(), 60);
+            as.valuesPerRecord
+                = qBound(1, a.value(QStringLiteral("values_per_record"), 4).toInt(), 60);
             as.year = a.value(QStringLiteral("year"), 0).toInt();
             as.futureIsHole = a.value(QStringLiteral("future_is_hole"), true).toBool();
             for (const QVariant &h : a.value(QStringLiteral("holes")).toList()) {
@@ -248,7 +253,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
             js.newest = j.value(QStringLiteral("newest"), -1).toInt();
             js.wrapped = j.value(QStringLiteral("wrapped"), false).toBool();
             js.first = dateTime(j.value(QStringLiteral("first")));
-            js.stepMinutes = qMax(1, j.value(QStringLiteral("step_minutes"), js.stepMinutes).toInt());
+            js.stepMinutes
+                = qMax(1, j.value(QStringLiteral("step_minutes"), js.stepMinutes).toInt());
         }
         if (m.contains(QStringLiteral("ring_archive"))) {
             const QVariantMap r = m.value(QStringLiteral("ring_archive")).toMap();
@@ -259,7 +265,8 @@ bool Scenario::fromMap(const QVariantMap &map, const QString &baseDir, Scenario 
             rs.channels = qBound(0, r.value(QStringLiteral("channels"), 0).toInt(), 2);
             rs.intervalCode = qBound(0, r.value(QStringLiteral("interval_code"), 0).toInt(), 15);
             rs.records = qMax(0, r.value(QStringLiteral("records"), rs.records).toInt());
-            rs.timeFrameEvery = qMax(1, r.value(QStringLiteral("time_frame_every"), rs.timeFrameEvery).toInt());
+            rs.timeFrameEvery
+                = qMax(1, r.value(QStringLiteral("time_frame_every"), rs.timeFrameEvery).toInt());
             rs.start = dateTime(r.value(QStringLiteral("start")));
             rs.mode = r.value(QStringLiteral("mode"), 0).toInt();
         }

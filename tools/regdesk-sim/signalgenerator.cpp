@@ -43,7 +43,8 @@ double SignalGenerator::at(double seconds) const
 {
     if (m_curve.fixed)
         return m_curve.base;
-    const double wave = m_curve.amplitude * std::sin(2.0 * M_PI * seconds / m_curve.periodS + m_curve.phase);
+    const double wave
+        = m_curve.amplitude * std::sin(2.0 * M_PI * seconds / m_curve.periodS + m_curve.phase);
     const uint64_t tick = uint64_t(std::llround(seconds * 10.0));
     const double noise = m_curve.noise * hashNoise(tick * 1000003ull + m_salt);
     return m_curve.base + wave + noise;

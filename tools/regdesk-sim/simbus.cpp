@@ -17,7 +17,8 @@ SimBus::SimBus(const Scenario &scenario)
     , m_faults(scenario.line.seed)
 {
     for (const InstrumentSettings &settings : scenario.instruments)
-        m_instruments.push_back(std::make_unique<Instrument>(settings, scenario.line.readOnlyException));
+        m_instruments.push_back(
+            std::make_unique<Instrument>(settings, scenario.line.readOnlyException));
 }
 
 SimBus::~SimBus() = default;
@@ -60,13 +61,15 @@ SimBus::Reply SimBus::process(const QByteArray &adu)
     Instrument *ins = instrument(address);
     if (!ins)
         return reply;
-    const FaultInjector::Decision fault = m_faults.decide(m_scenario.faults, &ins->settings().faults, function);
+    const FaultInjector::Decision fault
+        = m_faults.decide(m_scenario.faults, &ins->settings().faults, function);
     if (fault.silence) {
         if (m_verbose)
             std::fprintf(stderr, "regdesk-sim: fault: silence\n");
         return reply;
     }
-    const QByteArray answer = fault.busyCode ? Instrument::exception(function, fault.busyCode) : ins->handle(pdu);
+    const QByteArray answer
+        = fault.busyCode ? Instrument::exception(function, fault.busyCode) : ins->handle(pdu);
     if (answer.isEmpty())
         return reply;
     QByteArray out;
@@ -85,9 +88,10 @@ SimBus::Reply SimBus::process(const QByteArray &adu)
     if (m_verbose && fault.any())
         std::fprintf(stderr, "regdesk-sim: fault:%s%s%s%s%s%s\n", fault.busyCode ? " busy" : "",
                      fault.badChecksum ? " bad-checksum" : "", fault.garbage ? " garbage" : "",
-                     fault.wrongAddress ? " wrong-address" : "", fault.truncated ? " truncated" : "",
-                     fault.silence ? " silence" : "");
-    reply.delayMs = ins->settings().replyDelayMs >= 0 ? ins->settings().replyDelayMs : m_scenario.line.replyDelayMs;
+                     fault.wrongAddress ? " wrong-address" : "",
+                     fault.truncated ? " truncated" : "", fault.silence ? " silence" : "");
+    reply.delayMs = ins->settings().replyDelayMs >= 0 ? ins->settings().replyDelayMs
+                                                      : m_scenario.line.replyDelayMs;
     ++m_replies;
     return reply;
 }

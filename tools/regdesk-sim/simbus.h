@@ -18,8 +18,8 @@ class SimBus
 public:
     struct Reply
     {
-        QByteArray bytes;   // line bytes, framed; empty: no reply
-        int delayMs = 0;    // think time before the reply
+        QByteArray bytes; // line bytes, framed; empty: no reply
+        int delayMs = 0; // think time before the reply
         int requestChars = 0;
     };
 

@@ -18,16 +18,26 @@ namespace {
 speed_t speedFor(int baud)
 {
     switch (baud) {
-    case 1200: return B1200;
-    case 2400: return B2400;
-    case 4800: return B4800;
-    case 9600: return B9600;
-    case 19200: return B19200;
-    case 38400: return B38400;
-    case 57600: return B57600;
-    case 115200: return B115200;
-    case 230400: return B230400;
-    default: return B0;
+    case 1200:
+        return B1200;
+    case 2400:
+        return B2400;
+    case 4800:
+        return B4800;
+    case 9600:
+        return B9600;
+    case 19200:
+        return B19200;
+    case 38400:
+        return B38400;
+    case 57600:
+        return B57600;
+    case 115200:
+        return B115200;
+    case 230400:
+        return B230400;
+    default:
+        return B0;
     }
 }
 
@@ -52,7 +62,8 @@ bool SimLine::openPty(QString &error)
 {
     m_fd = posix_openpt(O_RDWR | O_NOCTTY);
     if (m_fd < 0 || grantpt(m_fd) != 0 || unlockpt(m_fd) != 0) {
-        error = QStringLiteral("pseudo-terminal: %1").arg(QString::fromLocal8Bit(std::strerror(errno)));
+        error = QStringLiteral("pseudo-terminal: %1")
+                    .arg(QString::fromLocal8Bit(std::strerror(errno)));
         close();
         return false;
     }
@@ -76,7 +87,8 @@ bool SimLine::openPty(QString &error)
             return false;
         }
         if (::symlink(name, link.constData()) != 0) {
-            error = QStringLiteral("symlink %1: %2").arg(m_settings.link, QString::fromLocal8Bit(std::strerror(errno)));
+            error = QStringLiteral("symlink %1: %2")
+                        .arg(m_settings.link, QString::fromLocal8Bit(std::strerror(errno)));
             close();
             return false;
         }
@@ -90,7 +102,8 @@ bool SimLine::openDevice(QString &error)
     const QByteArray path = QFile::encodeName(m_settings.device);
     m_fd = ::open(path.constData(), O_RDWR | O_NOCTTY | O_NONBLOCK);
     if (m_fd < 0) {
-        error = QStringLiteral("%1: %2").arg(m_settings.device, QString::fromLocal8Bit(std::strerror(errno)));
+        error = QStringLiteral("%1: %2").arg(m_settings.device,
+                                             QString::fromLocal8Bit(std::strerror(errno)));
         return false;
     }
     termios tios;
@@ -114,7 +127,8 @@ bool SimLine::openDevice(QString &error)
     tios.c_cc[VMIN] = 0;
     tios.c_cc[VTIME] = 0;
     if (tcsetattr(m_fd, TCSANOW, &tios) != 0) {
-        error = QStringLiteral("%1: %2").arg(m_settings.device, QString::fromLocal8Bit(std::strerror(errno)));
+        error = QStringLiteral("%1: %2").arg(m_settings.device,
+                                             QString::fromLocal8Bit(std::strerror(errno)));
         close();
         return false;
     }
@@ -138,7 +152,7 @@ void SimLine::close()
 SimLine::ReadResult SimLine::read(QByteArray &out, int timeoutMs)
 {
     out.clear();
-    pollfd p{m_fd, POLLIN, 0};
+    pollfd p {m_fd, POLLIN, 0};
     const int n = ::poll(&p, 1, timeoutMs);
     if (n < 0)
         return errno == EINTR ? Timeout : Failed;
@@ -172,7 +186,7 @@ bool SimLine::write(const QByteArray &bytes)
             continue;
         }
         if (n < 0 && (errno == EAGAIN || errno == EINTR) && ++tries < 100) {
-            pollfd p{m_fd, POLLOUT, 0};
+            pollfd p {m_fd, POLLOUT, 0};
             ::poll(&p, 1, 10);
             continue;
         }
@@ -190,8 +204,9 @@ int64_t SimLine::charactersUs(int count) const
 {
     // ASCII characters carry 7 data bits when the framing says so; the
     // character time follows the framing either way.
-    return int64_t(count) * ModbusFrame::characterTimeUs(m_settings.baudrate, m_settings.dataBits,
-                                                         m_settings.parity, m_settings.stopBits);
+    return int64_t(count)
+        * ModbusFrame::characterTimeUs(m_settings.baudrate, m_settings.dataBits, m_settings.parity,
+                                       m_settings.stopBits);
 }
 
 int64_t SimLine::silenceUs() const

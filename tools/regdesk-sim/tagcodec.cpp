@@ -10,8 +10,7 @@
 namespace {
 
 // Walks a byte order rule, calling f(position in data, index in result).
-template <typename F>
-void walkRule(const QString &rule, F f)
+template<typename F> void walkRule(const QString &rule, F f)
 {
     int base = 0;
     int index = 0;
@@ -44,9 +43,10 @@ SimTag TagCodec::fromTemplate(const QVariantMap &m, bool deviceSwap)
     t.group = group.size() == 2 ? group.first().toLower() : QString();
     t.deviceType = Tag::deviceTypeFromString(m.value(QStringLiteral("device_type")).toString());
     t.width = t.deviceType == Tag::dtByteArray ? m.value(QStringLiteral("array_size")).toInt()
-                                              : Tag::deviceTypeLength(t.deviceType);
+                                               : Tag::deviceTypeLength(t.deviceType);
     t.width = qBound(0, t.width, 250);
-    t.separate = Tag::tagTypeFromString(m.value(QStringLiteral("type")).toString()) == Tag::ttSeparate;
+    t.separate
+        = Tag::tagTypeFromString(m.value(QStringLiteral("type")).toString()) == Tag::ttSeparate;
     t.address = Tag::addressFromText(m.value(QStringLiteral("address")).toString());
     t.blockAddress = t.address;
     if (t.separate) {
@@ -62,10 +62,11 @@ SimTag TagCodec::fromTemplate(const QVariantMap &m, bool deviceSwap)
     t.byteorderEnabled = m.value(QStringLiteral("byteorder_enabled")).toBool();
     t.byteorder = m.value(QStringLiteral("byteorder")).toString();
     t.bitField = m.value(QStringLiteral("use_bit_extraction")).toBool()
-                 || m.value(QStringLiteral("use_bit_extraction_read_only")).toBool();
+        || m.value(QStringLiteral("use_bit_extraction_read_only")).toBool();
     const int bits = t.width * 8;
     t.bitFrom = qBound(0, m.value(QStringLiteral("extract_bit_from")).toInt(), qMax(0, bits - 1));
-    t.bitTo = qBound(t.bitFrom, m.value(QStringLiteral("extract_bit_to")).toInt(), qMax(0, bits - 1));
+    t.bitTo
+        = qBound(t.bitFrom, m.value(QStringLiteral("extract_bit_to")).toInt(), qMax(0, bits - 1));
     t.readFunc = m.value(QStringLiteral("read_func"), 3).toInt();
     t.writeFunc = m.value(QStringLiteral("write_func"), 16).toInt();
     t.access = Tag::accessTypeFromString(m.value(QStringLiteral("access")).toString());

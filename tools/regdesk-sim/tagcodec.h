@@ -10,14 +10,14 @@
 struct SimTag
 {
     QString name;
-    QString group;             // config group id, lower case
-    unsigned address = 0;      // register (or bit) of the value itself
-    int deviceType = 5;        // Tag::DeviceType
-    int width = 4;             // bytes
+    QString group; // config group id, lower case
+    unsigned address = 0; // register (or bit) of the value itself
+    int deviceType = 5; // Tag::DeviceType
+    int width = 4; // bytes
     bool separate = false;
     unsigned blockAddress = 0; // a separate tag's block
     int blockRegisters = 0;
-    bool swap = true;          // the master's byte swap for this tag
+    bool swap = true; // the master's byte swap for this tag
     bool byteorderEnabled = false;
     QString byteorder;
     bool bitField = false;
@@ -25,10 +25,10 @@ struct SimTag
     int bitTo = 0;
     int readFunc = 3;
     int writeFunc = 16;
-    int access = 2;            // Tag::OpcAccessType
+    int access = 2; // Tag::OpcAccessType
     bool hasLimits = false;
     double low = 0.0, high = 0.0;
-    QVariant value;            // the template's value, invalid when absent
+    QVariant value; // the template's value, invalid when absent
 
     bool isBit() const { return deviceType == 0; }
     bool isChannel() const { return group == QLatin1String("channel"); }
