@@ -19,6 +19,8 @@ DeviceAddDialog::DeviceAddDialog(QWidget *parent)
     , ui(new Ui::DeviceAddDialog)
 {
     ui->setupUi(this);
+    // One line per template; the description shows whole in its tool tip.
+    ui->tableWidget->setWordWrap(false);
     QHeaderView *header = ui->tableWidget->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(ColDescription, QHeaderView::Stretch);

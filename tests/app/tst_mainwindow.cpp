@@ -1,3 +1,4 @@
+#include "app/application.h"
 #include "app/guitestsupport.h"
 #include "app/mainwindow.h"
 #include "config/appsettings.h"
@@ -10,6 +11,7 @@
 #include "testsupport.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -49,6 +51,8 @@ private slots:
     void okToContinueAnswers();
     void currentItemOfRemovedDevice();
     void statisticsSavedUnderLog();
+    void saveActionAsks();
+    void languageBoxSwitchesWindow();
 
 private:
     Device *addDevice(Port *port, const QString &name, const QString &templateName);
@@ -597,6 +601,58 @@ void tst_MainWindow::statisticsSavedUnderLog()
     QCOMPARE(readFile(QDir(AppSettings::log_dir()).filePath(files.first())),
              m_window->statisticsText().toUtf8());
     QVERIFY(boxes.requests.isEmpty());
+}
+
+void tst_MainWindow::saveActionAsks()
+{
+    BoxRecorder boxes;
+    const QString file = m_dir->filePath(QStringLiteral("cfg/asked.cfg"));
+    AppSettings::set_cfg_fn(file);
+    m_window->server()->addPort(QStringLiteral("p"));
+    m_window->serverModified();
+    boxes.answers << QMessageBox::No;
+    action("actionSave")->trigger();
+    QCOMPARE(boxes.texts(), QStringList(QStringLiteral("Do you want to save your configuration?")));
+    QVERIFY(!QFile::exists(file));
+    boxes.answers << QMessageBox::Yes;
+    action("actionSave")->trigger();
+    QVERIFY(QFile::exists(file));
+    QVERIFY(!m_window->isWindowModified());
+    QVERIFY(!action("actionSave")->isEnabled());
+}
+
+void tst_MainWindow::languageBoxSwitchesWindow()
+{
+    Application::loadTranslations(QStringLiteral(":/lang"));
+    QVERIFY(Application::availableLanguages().contains(QStringLiteral("ru_RU")));
+    m_window.reset();
+    m_window = std::make_unique<MainWindow>();
+    QCoreApplication::processEvents();
+    auto *box = m_window->findChild<QComboBox *>(QStringLiteral("langSelector"));
+    auto *tabs = m_window->findChild<QTabWidget *>(QStringLiteral("mainTabWidget"));
+    QTreeWidgetItem *root = m_window->treeItem(m_window->server());
+
+    // Russian unless the configuration says otherwise.
+    QCOMPARE(box->currentData().toString(), QStringLiteral("ru_RU"));
+    QCOMPARE(action("actionAdd")->text(), QStringLiteral("Добавить"));
+    QCOMPARE(root->text(0), QStringLiteral("Порты и приборы"));
+    QCOMPARE(tabs->tabText(1), QStringLiteral("Сканирование"));
+    QVERIFY(!m_window->isWindowModified());
+
+    box->setCurrentIndex(box->findData(QStringLiteral("en_US")));
+    QCoreApplication::processEvents();
+    QCOMPARE(action("actionAdd")->text(), QStringLiteral("Add"));
+    QCOMPARE(root->text(0), QStringLiteral("Ports & Devices"));
+    QCOMPARE(tabs->tabText(1), QStringLiteral("Scanning"));
+    // The choice is part of the configuration.
+    QCOMPARE(AppSettings::instance()->language(), QStringLiteral("en_US"));
+    QVERIFY(m_window->isWindowModified());
+
+    box->setCurrentIndex(box->findData(QStringLiteral("ru_RU")));
+    QCoreApplication::processEvents();
+    QCOMPARE(action("actionRemove")->text(), QStringLiteral("Удалить"));
+    Application::setLanguage(QStringLiteral("en_US"));
+    QCoreApplication::processEvents();
 }
 
 QTEST_MAIN(tst_MainWindow)
