@@ -1,6 +1,7 @@
 #include "discovery/scanner.h"
 
 #include "app/debugqt.h"
+#include "app/messagebox.h"
 #include "config/utils.h"
 #include "exchange/modbuslogger.h"
 #include "modbus/modbus.h"
@@ -8,7 +9,6 @@
 #include "model/server.h"
 
 #include <QCoreApplication>
-#include <QMessageBox>
 #include <QProgressDialog>
 
 #include <algorithm>
@@ -79,9 +79,9 @@ bool Scanner::askOpenError(const QString &port, const QString &error)
 {
     if (m_openErrorQuestion)
         return m_openErrorQuestion(port, error);
-    return QMessageBox::question(m_parentWidget, tr("Confirmation required"),
-                                 tr("Error opening port '%1' (%2), continue?").arg(port, error),
-                                 QMessageBox::Yes | QMessageBox::No)
+    return MessageBox::question(m_parentWidget, tr("Confirmation required"),
+                                tr("Error opening port '%1' (%2), continue?").arg(port, error),
+                                QMessageBox::Yes | QMessageBox::No)
         == QMessageBox::Yes;
 }
 

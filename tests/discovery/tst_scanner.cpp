@@ -1,4 +1,5 @@
 #include "../sim/simprocess.h"
+#include "app/messagebox.h"
 #include "config/devicetemplatecatalog.h"
 #include "discovery/scanner.h"
 #include "discovery/scanresultimporter.h"
@@ -288,16 +289,22 @@ void tst_Scanner::lineThatCannotBeOpened()
     t.protocols << line8N1 << SerialPortProtocol(8, QLatin1Char('N'), 2);
     t.fromAddress = 1;
     t.toAddress = 3;
-    QStringList asked;
+    QList<MessageBox::Request> asked;
+    MessageBox::setHook([&](const MessageBox::Request &request) {
+        asked << request;
+        return answer ? QMessageBox::Yes : QMessageBox::No;
+    });
     Scanner scanner;
     scanner.setScanTask(t);
-    scanner.setOpenErrorQuestion([&](const QString &port, const QString &error) {
-        asked << port;
-        return !error.isEmpty() && answer;
-    });
     scanner.start();
+    MessageBox::setHook(MessageBox::Hook());
     QTEST(int(asked.size()), "questions");
-    QCOMPARE(asked.first(), QStringLiteral("/nonexistent/ttyX"));
+    QCOMPARE(asked.first().title, QStringLiteral("Confirmation required"));
+    QVERIFY2(
+        asked.first().text.startsWith(QStringLiteral("Error opening port '/nonexistent/ttyX' (")),
+        qPrintable(asked.first().text));
+    QVERIFY(asked.first().text.endsWith(QStringLiteral("), continue?")));
+    QCOMPARE(asked.first().buttons, QMessageBox::Yes | QMessageBox::No);
     QVERIFY(scanner.result().isEmpty());
     QCOMPARE(scanner.stepCount(), 0);
     QCOMPARE(scanner.progressMaximum(), 3 * 2 * 1 * 2 - 1);
