@@ -11,6 +11,7 @@
 #include "config/deviceadddialog.h"
 #include "config/devicetemplatecatalog.h"
 #include "config/saveastemplatedialog.h"
+#include "exchange/pollingstatistics.h"
 #include "model/device.h"
 #include "model/port.h"
 #include "model/server.h"
@@ -39,7 +40,6 @@
 
 namespace {
 const char *const AppTitle = "regdesk";
-constexpr int StatisticsInterval = 3000;
 
 // The classes whose font follows the user's choice.
 const char *const FontClasses[]
@@ -61,6 +61,7 @@ MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui::MainWindow)
     , m_server(new Server(this))
+    , m_stats(new PollingStatistics(this))
 {
     qRegisterMetaType<ServerItem *>("ServerItem*");
     ui->setupUi(this);
@@ -90,6 +91,7 @@ MainWindow::MainWindow(QWidget *parent)
     connectTree(true);
 
     connect(&m_statTimer, &QTimer::timeout, this, &MainWindow::updateStatistics);
+    connect(m_stats, &PollingStatistics::playChanged, this, &MainWindow::onPlayChanged);
     connect(&m_clockTimer, &QTimer::timeout, this, &MainWindow::updateCurrentTime);
     m_clockTimer.start(1000);
     updateCurrentTime();
@@ -264,10 +266,7 @@ QTreeWidgetItem *MainWindow::addDeviceInTree(Port *port, Device *device)
 
 bool MainWindow::portThreadWorks(const Port *port) const
 {
-    // A port only works on its own while it polls, and polling is started
-    // by the device editors; until they run any, no port does.
-    Q_UNUSED(port)
-    return false;
+    return port && port->isPortThreadWorked();
 }
 
 void MainWindow::updateRootMark()
@@ -618,12 +617,11 @@ void MainWindow::serverModified()
     if (!m_server->isPortsThreadWorked()) {
         m_statTimer.stop();
         statusBar()->clearMessage();
-        ui->actionPlay->setVisible(false);
+        m_stats->setPollingActive(false);
     } else if (!m_statTimer.isActive()) {
-        m_statTimer.setInterval(StatisticsInterval);
+        m_statTimer.setInterval(PollingStatistics::UpdateInterval);
         m_statTimer.start();
-        m_statWarning = false;
-        ui->actionPlay->setIcon(QIcon(QStringLiteral(":/images/play.png")));
+        m_stats->setPollingActive(true);
     }
 }
 
@@ -1079,63 +1077,34 @@ void MainWindow::doUpdateStatistics()
 {
     QScrollBar *bar = ui->statisticsTextEdit->verticalScrollBar();
     const int position = bar->value();
-    // "mm" twice: the month place shows minutes, as the statistics always did.
-    QString text
-        = QStringLiteral("Time: %1")
-              .arg(QDateTime::currentDateTime().toString(QStringLiteral("dd.mm.yyyy hh:mm:ss")));
-    text += QStringLiteral("\n------------------- statistics --------------------\n");
-    for (Port *port : m_server->ports()) {
-        text += QStringLiteral("Port:%1 Devices:%2 Tags:%3\n")
-                    .arg(port->name())
-                    .arg(port->devices().size())
-                    .arg(port->activeTags().size());
+    for (Port *port : m_server->ports())
         updatePortStatusInTree(port);
+    const QString text = m_stats->build(m_server, QDateTime::currentDateTime());
+    {
+        const QSignalBlocker blocker(bar);
+        ui->statisticsTextEdit->setPlainText(text);
+        bar->setValue(position);
     }
-    text += QStringLiteral("-------------------Thread statistics--------------------\n");
-    bool warning = false;
-    for (Port *port : m_server->ports()) {
-        if (!portThreadWorks(port))
-            continue;
-        QString problems;
-        for (Device *device : port->devices()) {
-            const QList<Tag *> failed = device->tagsWithErrors(true);
-            if (failed.isEmpty())
-                continue;
-            problems += QStringLiteral(" \n%1%2").arg(device->name(),
-                                                      device->portSettingsToString(false));
-            for (Tag *tag : failed)
-                problems
-                    += QStringLiteral("    %1%2")
-                           .arg(tag->name(),
-                                tag->isTimeStampTimeout() ? QStringLiteral(" Timeout") : QString());
-        }
-        if (!problems.isEmpty()) {
-            warning = true;
-            text += QStringLiteral("WARNING! There are devices with problems!!!\nDevices with "
-                                   "problem tags:")
-                + problems + QLatin1Char('\n');
-        }
-        text += QStringLiteral("---------------------------------------------------------\n\n");
-    }
-    ui->statisticsTextEdit->setPlainText(text);
-    bar->setValue(position);
-    m_statWarning = warning;
-    if (warning) {
-        statusBar()->showMessage(tr("WARNING! There are devices with problems!!!"));
-        ui->actionPlay->setIcon(QIcon(QStringLiteral(":/images/play_err.png")));
-    }
+    if (!m_statTimer.isActive())
+        return;
+    if (m_stats->statusMessage().isEmpty())
+        statusBar()->clearMessage();
+    else
+        statusBar()->showMessage(m_stats->statusMessage());
 }
 
 void MainWindow::updateCurrentTime()
 {
     m_clockLabel->setText(QStringLiteral("<p style=\"font: bold;\"> %1 </p>")
                               .arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss"))));
-    if (m_statTimer.isActive()) {
-        ui->actionPlay->setVisible(!ui->actionPlay->isVisible());
-        if (!ui->actionPlay->isVisible())
-            ui->actionPlay->setIcon(QIcon(m_statWarning ? QStringLiteral(":/images/play_err.png")
-                                                        : QStringLiteral(":/images/play.png")));
-    }
+    if (m_statTimer.isActive())
+        m_stats->blink();
+}
+
+void MainWindow::onPlayChanged(bool visible, const QString &icon)
+{
+    ui->actionPlay->setVisible(visible);
+    ui->actionPlay->setIcon(QIcon(icon));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

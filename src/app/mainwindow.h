@@ -8,6 +8,7 @@
 #include <QVariantMap>
 
 class Device;
+class PollingStatistics;
 class Port;
 class QComboBox;
 class QLabel;
@@ -107,6 +108,7 @@ private slots:
     void on_mainTabWidget_currentChanged(int index);
     void on_txtConfigComment_textEdited(const QString &text);
     void updateCurrentTime();
+    void onPlayChanged(bool visible, const QString &icon);
 
 private:
     void setupActions();
@@ -127,6 +129,7 @@ private:
 
     Ui::MainWindow *ui;
     Server *m_server;
+    PollingStatistics *m_stats;
     ServerItemEditor *m_editor;
     QTreeWidgetItem *m_rootItem;
     QMap<ServerItem *, QTreeWidgetItem *> m_items;
@@ -138,7 +141,6 @@ private:
     QComboBox *m_langSelector;
     QTimer m_statTimer;
     QTimer m_clockTimer;
-    bool m_statWarning = false;
 };
 
 #endif // MAINWINDOW_H

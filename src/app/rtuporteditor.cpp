@@ -3,13 +3,18 @@
 
 #include "app/debugqt.h"
 #include "app/messagebox.h"
+#include "config/utils.h"
 #include "model/port.h"
 #include "model/server.h"
 
+#include <QSemaphore>
 #include <QSerialPortInfo>
 #include <QSignalBlocker>
 
 namespace {
+// How long a hand-made request waits for the exchange in progress on the line.
+constexpr int RawRequestLockWait = 3000;
+
 QString greenText(const QString &text)
 {
     return QStringLiteral("<p style=\"color: green;\">%1</p>").arg(text.toHtmlEscaped());
@@ -287,19 +292,41 @@ void RTUPortEditor::on_btnSendRawRequest_clicked()
     if (!m_port)
         return;
     const QByteArray request = parseHex(ui->txtRawRequest->text());
-    if (request.isEmpty()) {
-        ui->lbRawStatus->setText(redText(tr("The request must be pairs of hexadecimal digits.")));
+    if (request.size() < 2) {
+        ui->lbRawStatus->setText(redText(
+            tr("The request must be pairs of hexadecimal digits: address, function, data.")));
         return;
     }
-    sendRawRequest(request, ui->chkRawAddCrc->isChecked());
+    sendRawRequest(request);
 }
 
-void RTUPortEditor::sendRawRequest(const QByteArray &request, bool addChecksum)
+void RTUPortEditor::sendRawRequest(const QByteArray &request)
 {
-    Q_UNUSED(request)
-    Q_UNUSED(addChecksum)
-    // Raw frames go out through the port's exchange, which this build lacks.
-    ui->lbRawStatus->setText(redText(tr("Raw requests are not available in this version.")));
+    // The polling thread may be in the middle of an exchange on this line.
+    QSemaphore *lock = m_port->portLock();
+    if (!lock->tryAcquire(1, RawRequestLockWait)) {
+        ui->lbRawStatus->setText(redText(tr("The port is busy, try again.")));
+        return;
+    }
+    if (!m_port->isOpened() && !m_port->open()) {
+        lock->release();
+        ui->lbRawStatus->setText(redText(tr("Failure: %1.").arg(m_port->errorString())));
+        return;
+    }
+    QString rx;
+    QString tx;
+    const QByteArray reply = m_port->sendRawRequest(request, rx, tx, true);
+    lock->release();
+    if (!tx.isEmpty())
+        ui->txtRawResponseLog->appendPlainText(tx);
+    if (!rx.isEmpty())
+        ui->txtRawResponseLog->appendPlainText(rx);
+    if (reply.isEmpty()) {
+        ui->lbRawStatus->setText(redText(tr("Failure: %1.").arg(m_port->errorString())));
+        return;
+    }
+    ui->txtRawResponseLog->appendPlainText(tr("Reply: %1").arg(byteBufferToString(reply)));
+    ui->lbRawStatus->setText(greenText(tr("Success.")));
 }
 
 void RTUPortEditor::on_btnClearRawResponseLog_clicked()

@@ -55,7 +55,7 @@ private:
     void fillLineBoxes();
     void retranslateParity();
     void showPort();
-    void sendRawRequest(const QByteArray &request, bool addChecksum);
+    void sendRawRequest(const QByteArray &request);
 
     Ui::RTUPortEditor *ui;
     Port *m_port = nullptr;

@@ -11,7 +11,9 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QStackedWidget>
 
@@ -29,6 +31,7 @@ private slots:
     void newSerialNameRenamesPort();
     void lineSettingsReachThePort();
     void typeDecidesNameEditing();
+    void checkAndRawRequestOnMissingDevice();
     void manualPage();
     void hostChoosesPageByItem();
 
@@ -160,6 +163,28 @@ void tst_PortEditor::typeDecidesNameEditing()
     address->setText(QStringLiteral("10.0.0.5:502"));
     emit address->editingFinished();
     QCOMPARE(m_second->ipAddress(), QStringLiteral("10.0.0.5:502"));
+}
+
+void tst_PortEditor::checkAndRawRequestOnMissingDevice()
+{
+    auto *check = m_editor->findChild<QPushButton *>(QStringLiteral("b_check"));
+    auto *checkStatus = m_editor->findChild<QLabel *>(QStringLiteral("lbCheckStatus"));
+    QVERIFY(check->isEnabled());
+    check->click();
+    QVERIFY(checkStatus->text().startsWith(QStringLiteral("<p style=\"color: red;\">Failure: ")));
+    QVERIFY(!m_second->isOpened());
+
+    auto *request = m_editor->findChild<QLineEdit *>(QStringLiteral("txtRawRequest"));
+    auto *send = m_editor->findChild<QPushButton *>(QStringLiteral("btnSendRawRequest"));
+    auto *status = m_editor->findChild<QLabel *>(QStringLiteral("lbRawStatus"));
+    request->setText(QStringLiteral("01 0"));
+    send->click();
+    QVERIFY(status->text().contains(QStringLiteral("hexadecimal")));
+    request->setText(QStringLiteral("01 03 00 00 00 01"));
+    send->click();
+    QVERIFY(status->text().contains(QStringLiteral("Failure: ")));
+    // The port lock is given back whatever happened.
+    QCOMPARE(m_second->portLock()->available(), 1);
 }
 
 void tst_PortEditor::manualPage()
