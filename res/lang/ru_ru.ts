@@ -402,10 +402,6 @@ To fix them to Null before saving template?</source>
         <source>Device was saved as template in file %1</source>
         <translation>Прибор сохранён как шаблон в файл %1</translation>
     </message>
-    <message>
-        <source>WARNING! There are devices with problems!!!</source>
-        <translation>ВНИМАНИЕ! Есть приборы с ошибками!</translation>
-    </message>
 </context>
 <context>
     <name>PortEditor</name>
@@ -528,14 +524,6 @@ To fix them to Null before saving template?</source>
         <translation>Закрыть</translation>
     </message>
     <message>
-        <source>Request (hex):</source>
-        <translation>Запрос (hex):</translation>
-    </message>
-    <message>
-        <source>Add checksum</source>
-        <translation>Добавить CRC</translation>
-    </message>
-    <message>
         <source>Send</source>
         <translation>Отправить</translation>
     </message>
@@ -580,12 +568,20 @@ To fix them to Null before saving template?</source>
         <translation>Открыт</translation>
     </message>
     <message>
-        <source>The request must be pairs of hexadecimal digits.</source>
-        <translation>Запрос должен состоять из пар шестнадцатеричных цифр.</translation>
+        <source>Request (hex, the checksum is added):</source>
+        <translation>Запрос (hex, CRC добавляется):</translation>
     </message>
     <message>
-        <source>Raw requests are not available in this version.</source>
-        <translation>Произвольные запросы в этой версии недоступны.</translation>
+        <source>The request must be pairs of hexadecimal digits: address, function, data.</source>
+        <translation>Запрос — пары шестнадцатеричных цифр: адрес, функция, данные.</translation>
+    </message>
+    <message>
+        <source>The port is busy, try again.</source>
+        <translation>Порт занят, повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Reply: %1</source>
+        <translation>Ответ: %1</translation>
     </message>
 </context>
 <context>
@@ -613,6 +609,118 @@ To fix them to Null before saving template?</source>
     <message>
         <source>Create template for custom configuration</source>
         <translation>Создать шаблон для произвольной конфигурации</translation>
+    </message>
+</context>
+<context>
+    <name>ScanWidget</name>
+    <message>
+        <source>Ports</source>
+        <translation>Порты</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Speeds</source>
+        <translation>Скорости</translation>
+    </message>
+    <message>
+        <source>Framing</source>
+        <translation>Формат кадра</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>Delimiter</source>
+        <translation>Разделитель</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Функции</translation>
+    </message>
+    <message>
+        <source>Function 17 (report slave id)</source>
+        <translation>Функция 17 (идентификатор прибора)</translation>
+    </message>
+    <message>
+        <source>Function 3, register</source>
+        <translation>Функция 3, регистр</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Количество</translation>
+    </message>
+    <message>
+        <source>Addresses</source>
+        <translation>Адреса</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>С</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>По</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Начать</translation>
+    </message>
+    <message>
+        <source>Append</source>
+        <translation>Добавить в дерево</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Порт</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Baudrate</source>
+        <translation>Скорость</translation>
+    </message>
+    <message>
+        <source>Reply 3</source>
+        <translation>Ответ 3</translation>
+    </message>
+    <message>
+        <source>Reply 17</source>
+        <translation>Ответ 17</translation>
+    </message>
+    <message>
+        <source>You have periodically requested devices!
+Stop devices requesting and try again.</source>
+        <translation>Идёт периодический опрос приборов!
+Остановите опрос и повторите.</translation>
+    </message>
+</context>
+<context>
+    <name>Scanner</name>
+    <message>
+        <source>Confirmation required</source>
+        <translation>Требуется подтверждение</translation>
+    </message>
+    <message>
+        <source>Error opening port '%1' (%2), continue?</source>
+        <translation>Ошибка открытия порта «%1» (%2). Продолжить?</translation>
+    </message>
+    <message>
+        <source>scanning port: %1, speed: %2, slave: %3, total founded: %4</source>
+        <translation>порт: %1, скорость: %2, адрес: %3, найдено: %4</translation>
+    </message>
+    <message>
+        <source>Scanning..</source>
+        <translation>Сканирование..</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 <context>
