@@ -21,15 +21,14 @@ PortThread::PortThread(Port *port, QObject *parent)
     m_scheduler->moveToThread(this);
     connect(m_worker, &Worker::requestProcessed, this, &PortThread::requestProcessed);
     // A worker that ran through its queue once takes the event loop with it.
-    connect(m_worker, &QThread::finished, this, &QThread::quit, Qt::DirectConnection);
+    connect(m_worker, &Worker::queueDrained, this, &QThread::quit, Qt::DirectConnection);
 }
 
 PortThread::~PortThread()
 {
-    if (isRunning()) {
+    if (isRunning())
         quit();
-        wait();
-    }
+    join();
     // Both threads have ended in run(); nothing of theirs runs any more.
     delete m_scheduler;
     delete m_worker;
@@ -44,7 +43,14 @@ void PortThread::run()
     // Still in the polling thread, where the timers can be killed.
     m_scheduler->stop();
     m_worker->stop();
-    m_worker->wait();
+    m_worker->join();
+    m_ended.store(true, std::memory_order_release);
+}
+
+void PortThread::join()
+{
+    wait();
+    (void)m_ended.load(std::memory_order_acquire);
 }
 
 bool PortThread::attachDevice(Device *device)

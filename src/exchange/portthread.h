@@ -40,6 +40,8 @@ public:
     Request *tagToRequest(Tag *tag, bool write);
     // Runs the worker through its queue once, then lets both threads end.
     void startOnce();
+    // Waits for the thread to end; what it did is then visible to the caller.
+    void join();
 
     bool clearQueueIfTimeout() const;
     void setClearQueueIfTimeout(bool on);
@@ -74,6 +76,8 @@ private:
     Scheduler *m_scheduler;
     Port *m_port;
     std::atomic<qint64> m_threadId {0};
+    // Set last in run(): Qt's own end of a thread is hidden from ThreadSanitizer.
+    std::atomic<bool> m_ended {false};
     QHash<Device *, QList<Tag *>> m_deviceTags;
     int m_minPollingPeriod = 0;
     quint64 m_droppedSnapshot = 0;

@@ -39,7 +39,7 @@ void Scheduler::addTag(Tag *tag)
     const int period = effectivePeriod(tag);
     bool newTimer = false;
     {
-        QMutexLocker locker(&m_mutex);
+        std::lock_guard<std::mutex> locker(m_mutex);
         newTimer = m_started && !m_periodToTimer.contains(period);
         QList<Tag *> &list = m_tags[period];
         if (!list.contains(tag))
@@ -56,7 +56,7 @@ void Scheduler::removeTag(Tag *tag)
 {
     int emptied = -1;
     {
-        QMutexLocker locker(&m_mutex);
+        std::lock_guard<std::mutex> locker(m_mutex);
         // Searched in every period: the tag's own may have changed since it was added.
         for (auto it = m_tags.begin(); it != m_tags.end(); ++it) {
             if (!it.value().removeAll(tag))
@@ -74,7 +74,7 @@ void Scheduler::removeTag(Tag *tag)
 
 void Scheduler::start()
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     for (auto it = m_tags.cbegin(); it != m_tags.cend(); ++it) {
         if (!m_periodToTimer.contains(it.key()))
             startTimerLocked(it.key());
@@ -85,7 +85,7 @@ void Scheduler::start()
 void Scheduler::stop()
 {
     LOG_INFO << "stopping scheduler";
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     m_started = false;
     for (auto it = m_timerToPeriod.cbegin(); it != m_timerToPeriod.cend(); ++it)
         killTimer(it.key());
@@ -97,7 +97,7 @@ void Scheduler::clear()
 {
     QList<int> periods;
     {
-        QMutexLocker locker(&m_mutex);
+        std::lock_guard<std::mutex> locker(m_mutex);
         periods = m_tags.keys();
         m_tags.clear();
     }
@@ -107,13 +107,13 @@ void Scheduler::clear()
 
 int Scheduler::minPollingPeriod() const
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     return m_tags.isEmpty() ? 0 : m_tags.firstKey();
 }
 
 int Scheduler::queueCount() const
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     int count = 0;
     for (const QList<Tag *> &list : m_tags)
         count += int(list.size());
@@ -122,13 +122,13 @@ int Scheduler::queueCount() const
 
 QList<int> Scheduler::periods() const
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     return m_tags.keys();
 }
 
 int Scheduler::timerCount() const
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     return int(m_timerToPeriod.size());
 }
 
@@ -144,7 +144,7 @@ void Scheduler::startTimerLocked(int period)
 void Scheduler::onStartNewTimer(int period)
 {
     LOG_INFO << "!!! start timer with period" << period;
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     // Tags of the period may have gone again, or a second signal came first.
     if (m_started && m_tags.contains(period) && !m_periodToTimer.contains(period))
         startTimerLocked(period);
@@ -152,7 +152,7 @@ void Scheduler::onStartNewTimer(int period)
 
 void Scheduler::onStopOldTimer(int period)
 {
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     if (m_tags.contains(period) || !m_periodToTimer.contains(period))
         return;
     const int id = m_periodToTimer.take(period);
@@ -166,7 +166,7 @@ void Scheduler::timerEvent(QTimerEvent *event)
         return;
     // The tags are handled under the lock, so that a device detached from the
     // interface thread is never queued again once removeTag has returned.
-    QMutexLocker locker(&m_mutex);
+    std::lock_guard<std::mutex> locker(m_mutex);
     const int period = m_timerToPeriod.value(event->timerId(), -1);
     if (period < 0 || !m_tags.contains(period)) {
         LOG_INFO << QStringLiteral("there's no tags belonging to timer '%1'").arg(event->timerId());

@@ -3,10 +3,10 @@
 
 #include <QList>
 #include <QMap>
-#include <QMutex>
 #include <QObject>
 
 #include <atomic>
+#include <mutex>
 
 class Tag;
 class Worker;
@@ -61,7 +61,7 @@ private:
     Worker *m_worker;
     std::atomic<bool> m_started {false};
     std::atomic<bool> m_clearQueueIfTimeout {false};
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex; // a standard lock, which ThreadSanitizer follows
 };
 
 #endif // SCHEDULER_H

@@ -6,6 +6,30 @@
 
 #include <algorithm>
 
+#include <sys/prctl.h>
+
+void Worker::Permits::release()
+{
+    {
+        std::lock_guard<std::mutex> locker(m_mutex);
+        ++m_count;
+    }
+    m_posted.notify_one();
+}
+
+void Worker::Permits::acquire()
+{
+    std::unique_lock<std::mutex> locker(m_mutex);
+    m_posted.wait(locker, [this] { return m_count > 0; });
+    --m_count;
+}
+
+int Worker::Permits::available() const
+{
+    std::lock_guard<std::mutex> locker(m_mutex);
+    return m_count;
+}
+
 Worker::Worker(QObject *parent)
     : QThread(parent)
 {
@@ -13,10 +37,9 @@ Worker::Worker(QObject *parent)
 
 Worker::~Worker()
 {
-    if (isRunning()) {
+    if (isRunning())
         stop();
-        wait();
-    }
+    join();
     for (Request *request : m_heap)
         delete request;
     m_heap.clear();
@@ -27,12 +50,12 @@ bool Worker::appendRequest(Request *request)
     if (!request)
         return false;
     {
-        QWriteLocker locker(&m_statsLock);
+        std::lock_guard<std::mutex> locker(m_statsMutex);
         ++m_stats.scheduled;
     }
     bool queued = false;
     {
-        QMutexLocker locker(&m_heapMutex);
+        std::unique_lock<std::mutex> locker(m_heapMutex);
         if (int(m_heap.size()) < m_queueLimit) {
             m_heap.push_back(request);
             std::push_heap(m_heap.begin(), m_heap.end(), RequestCompare());
@@ -40,7 +63,7 @@ bool Worker::appendRequest(Request *request)
         }
     }
     if (!queued) {
-        QWriteLocker locker(&m_statsLock);
+        std::lock_guard<std::mutex> locker(m_statsMutex);
         ++m_stats.dropped;
         delete request;
     }
@@ -52,7 +75,7 @@ int Worker::clearQueue()
 {
     std::deque<Request *> dropped;
     {
-        QMutexLocker locker(&m_heapMutex);
+        std::unique_lock<std::mutex> locker(m_heapMutex);
         // An editor waits for its one-shot request: it stays.
         const bool all = !m_running;
         auto keep = std::stable_partition(m_heap.begin(), m_heap.end(), [all](const Request *r) {
@@ -65,7 +88,7 @@ int Worker::clearQueue()
     const int count = int(dropped.size());
     LOG_INFO << QStringLiteral("*** dropping %1 requests").arg(count);
     if (count > 0) {
-        QWriteLocker locker(&m_statsLock);
+        std::lock_guard<std::mutex> locker(m_statsMutex);
         m_stats.dropped += quint64(count);
     }
     // The permits stay: the loop runs through them on the emptier heap.
@@ -78,7 +101,7 @@ int Worker::withdrawTags(const QList<Tag *> &tags)
 {
     std::deque<Request *> taken;
     {
-        QMutexLocker locker(&m_heapMutex);
+        std::unique_lock<std::mutex> locker(m_heapMutex);
         auto keep = std::stable_partition(m_heap.begin(), m_heap.end(), [&tags](const Request *r) {
             return !tags.contains(r->tag());
         });
@@ -86,11 +109,11 @@ int Worker::withdrawTags(const QList<Tag *> &tags)
         m_heap.erase(keep, m_heap.end());
         std::make_heap(m_heap.begin(), m_heap.end(), RequestCompare());
         // The tags may be deleted once this returns: let their exchange end first.
-        while (m_current && tags.contains(m_current))
-            m_exchangeDone.wait(&m_heapMutex);
+        m_exchangeDone.wait(locker,
+                            [this, &tags] { return !m_current || !tags.contains(m_current); });
     }
     {
-        QWriteLocker locker(&m_statsLock);
+        std::lock_guard<std::mutex> locker(m_statsMutex);
         for (Tag *tag : tags)
             m_failedTags.remove(tag);
     }
@@ -103,7 +126,7 @@ bool Worker::withdrawOneShot(Tag *tag)
 {
     Request *taken = nullptr;
     {
-        QMutexLocker locker(&m_heapMutex);
+        std::unique_lock<std::mutex> locker(m_heapMutex);
         auto it = std::find_if(m_heap.begin(), m_heap.end(), [tag](const Request *r) {
             return r->isOneShot() && r->tag() == tag;
         });
@@ -124,6 +147,12 @@ void Worker::stop()
     m_permits.release();
 }
 
+void Worker::join()
+{
+    wait();
+    (void)m_ended.load(std::memory_order_acquire);
+}
+
 void Worker::setQueueLimit(int limit)
 {
     m_queueLimit = limit > 0 ? limit : DefaultQueueLimit;
@@ -141,7 +170,7 @@ void Worker::displayStats() const
 
 Worker::Stats Worker::stats() const
 {
-    QReadLocker locker(&m_statsLock);
+    std::lock_guard<std::mutex> locker(m_statsMutex);
     Stats s = m_stats;
     s.avgTime = m_times.isEmpty() ? 0.0 : double(m_timesSum) / double(m_times.size());
     return s;
@@ -149,13 +178,13 @@ Worker::Stats Worker::stats() const
 
 int Worker::pendingCount() const
 {
-    QMutexLocker locker(&m_heapMutex);
+    std::unique_lock<std::mutex> locker(m_heapMutex);
     return int(m_heap.size());
 }
 
 QList<Tag *> Worker::pendingTags() const
 {
-    QMutexLocker locker(&m_heapMutex);
+    std::unique_lock<std::mutex> locker(m_heapMutex);
     QList<Tag *> tags;
     tags.reserve(qsizetype(m_heap.size()));
     for (const Request *request : m_heap)
@@ -165,13 +194,20 @@ QList<Tag *> Worker::pendingTags() const
 
 QHash<Tag *, int> Worker::failedTags() const
 {
-    QReadLocker locker(&m_statsLock);
+    std::lock_guard<std::mutex> locker(m_statsMutex);
     return m_failedTags;
 }
 
 void Worker::run()
 {
+    // The pauses around each exchange are a millisecond or so at high baud
+    // rates: the default slack of 50 us on every sleep would cost the line a few
+    // per cent.
+    prctl(PR_SET_TIMERSLACK, 1UL, 0UL, 0UL, 0UL);
     execute();
+    if (m_stopIfQueueEmpty)
+        emit queueDrained();
+    m_ended.store(true, std::memory_order_release);
 }
 
 void Worker::execute()
@@ -180,7 +216,7 @@ void Worker::execute()
         m_permits.acquire();
         Request *request = nullptr;
         {
-            QMutexLocker locker(&m_heapMutex);
+            std::unique_lock<std::mutex> locker(m_heapMutex);
             if (!m_running)
                 break;
             if (!m_heap.empty()) {
@@ -195,9 +231,9 @@ void Worker::execute()
             request->setProcessingTime(request->tag() ? request->tag()->processingTime() : 0);
             account(request, ok);
             {
-                QMutexLocker locker(&m_heapMutex);
+                std::unique_lock<std::mutex> locker(m_heapMutex);
                 m_current = nullptr;
-                m_exchangeDone.wakeAll();
+                m_exchangeDone.notify_all();
             }
             emit requestProcessed();
             delete request;
@@ -211,7 +247,7 @@ void Worker::execute()
 
 void Worker::account(Request *request, bool ok)
 {
-    QWriteLocker locker(&m_statsLock);
+    std::lock_guard<std::mutex> locker(m_statsMutex);
     ++m_stats.processed;
     Tag *tag = request->tag();
     if (ok) {

@@ -3,20 +3,21 @@
 
 #include <QHash>
 #include <QList>
-#include <QMutex>
-#include <QReadWriteLock>
-#include <QSemaphore>
 #include <QThread>
-#include <QWaitCondition>
 
 #include <atomic>
+#include <condition_variable>
 #include <deque>
+#include <mutex>
 
 class Request;
 class Tag;
 
 // The thread that serves a port's queue of requests in priority order and
 // does the blocking exchanges.
+//
+// Its locks are the standard library's: ThreadSanitizer follows them, where
+// it cannot see into a Qt built without it.
 class Worker : public QThread
 {
     Q_OBJECT
@@ -50,6 +51,8 @@ public:
     bool withdrawOneShot(Tag *tag);
 
     void stop();
+    // Waits for the thread to end; what it did is then visible to the caller.
+    void join();
     void setStopIfQueueEmpty(bool on = true) { m_stopIfQueueEmpty = on; }
     void setQueueLimit(int limit);
     int queueLimit() const { return m_queueLimit; }
@@ -64,6 +67,8 @@ public:
 
 signals:
     void requestProcessed();
+    // The queue ran empty with stopIfQueueEmpty set: the thread ends.
+    void queueDrained();
 
 protected:
     void run() override;
@@ -72,16 +77,32 @@ private:
     void execute();
     void account(Request *request, bool ok);
 
+    // One permit per request to serve.
+    class Permits
+    {
+    public:
+        void release();
+        void acquire();
+        int available() const;
+
+    private:
+        mutable std::mutex m_mutex;
+        std::condition_variable m_posted;
+        int m_count = 0;
+    };
+
     std::deque<Request *> m_heap;
     std::atomic<int> m_queueLimit {DefaultQueueLimit};
-    QSemaphore m_permits;
-    mutable QMutex m_heapMutex;
-    QWaitCondition m_exchangeDone;
+    Permits m_permits;
+    mutable std::mutex m_heapMutex;
+    std::condition_variable m_exchangeDone;
     Tag *m_current = nullptr; // tag of the request in exchange, under the heap mutex
     std::atomic<bool> m_running {true};
     std::atomic<bool> m_stopIfQueueEmpty {false};
+    // Set last in run(): Qt's own end of a thread is hidden from ThreadSanitizer.
+    std::atomic<bool> m_ended {false};
 
-    mutable QReadWriteLock m_statsLock;
+    mutable std::mutex m_statsMutex;
     Stats m_stats;
     QList<int> m_times;
     qint64 m_timesSum = 0;

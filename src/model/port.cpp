@@ -897,7 +897,7 @@ void Port::stopPortThread()
     PortThread *thread = m_portThread;
     m_portThread = nullptr;
     thread->quit();
-    thread->wait();
+    thread->join();
     thread->deleteLater();
 }
 

@@ -11,12 +11,13 @@
 
 #include <QElapsedTimer>
 #include <QJsonDocument>
-#include <QMutex>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QtTest>
 
 #include <cmath>
+#include <mutex>
+#include <vector>
 
 // Channels move a little around their template values in the simulator.
 static bool near(const QVariant &value, float expected)
@@ -54,7 +55,7 @@ private:
 
     Device *addDevice(const QString &name, int address, int channels, int period);
     void record(Device *device);
-    QList<Exchange> recorded();
+    std::vector<Exchange> recorded();
     int goodReads(Tag *tag);
     // Holds the port lock from another thread, as a long exchange would.
     QThread *holdPortLock(int ms);
@@ -63,8 +64,9 @@ private:
     QVariantMap m_template;
     Server *m_server = nullptr;
     Port *m_port = nullptr;
-    QMutex m_recordLock;
-    QList<Exchange> m_exchanges;
+    // Standard types: written by the worker, read here, never shared implicitly.
+    std::mutex m_recordLock;
+    std::vector<Exchange> m_exchanges;
 };
 
 void tst_Polling::initTestCase()
@@ -126,16 +128,16 @@ void tst_Polling::record(Device *device)
         connect(
             tag, &ServerItem::stateChanged, this,
             [this, tag] {
-                QMutexLocker locker(&m_recordLock);
-                m_exchanges.append({tag, tag->lastResult()});
+                std::lock_guard<std::mutex> locker(m_recordLock);
+                m_exchanges.push_back({tag, tag->lastResult()});
             },
             Qt::DirectConnection);
     }
 }
 
-QList<tst_Polling::Exchange> tst_Polling::recorded()
+std::vector<tst_Polling::Exchange> tst_Polling::recorded()
 {
-    QMutexLocker locker(&m_recordLock);
+    std::lock_guard<std::mutex> locker(m_recordLock);
     return m_exchanges;
 }
 
@@ -200,8 +202,8 @@ void tst_Polling::attachedDevicesPollInPriorityOrder()
 
     // The one in exchange ends first; then every pending request of the
     // first device comes out before any of the second's.
-    QTRY_VERIFY(recorded().size() >= mark + 1 + pending.size());
-    const QList<Exchange> order = recorded();
+    QTRY_VERIFY(int(recorded().size()) >= mark + 1 + int(pending.size()));
+    const std::vector<Exchange> order = recorded();
     for (int i = mark + 1; i <= mark + ofFirst; ++i)
         QVERIFY2(firstTags.contains(order.at(i).tag), qPrintable(QString::number(i - mark)));
     for (const Exchange &e : order)

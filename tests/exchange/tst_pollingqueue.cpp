@@ -4,10 +4,11 @@
 #include "model/device.h"
 #include "model/tag.h"
 
-#include <QMutex>
 #include <QtTest>
 
 #include <memory>
+#include <mutex>
+#include <vector>
 
 // The queue of the polling engine without a line: tags of a device that has
 // no port fail at once, so the worker runs through its heap quickly.
@@ -30,8 +31,8 @@ private:
     void recordOrder(Tag *tag);
 
     std::unique_ptr<Device> m_device;
-    QMutex m_orderLock;
-    QList<Tag *> m_order;
+    std::mutex m_orderLock;
+    std::vector<Tag *> m_order;
 };
 
 void tst_PollingQueue::init()
@@ -68,8 +69,8 @@ void tst_PollingQueue::recordOrder(Tag *tag)
     connect(
         tag, &ServerItem::stateChanged, this,
         [this, tag] {
-            QMutexLocker locker(&m_orderLock);
-            m_order.append(tag);
+            std::lock_guard<std::mutex> locker(m_orderLock);
+            m_order.push_back(tag);
         },
         Qt::DirectConnection);
 }
@@ -106,7 +107,7 @@ void tst_PollingQueue::heapServesHigherPriorityFirst()
     worker.stop();
     QVERIFY(worker.wait(5000));
 
-    QCOMPARE(m_order.size(), 9);
+    QCOMPARE(int(m_order.size()), 9);
     for (int i = 0; i < 4; ++i)
         QVERIFY2(first.contains(m_order.at(i)), qPrintable(m_order.at(i)->name()));
     for (int i = 4; i < 9; ++i)

@@ -86,7 +86,8 @@ void tst_PollingStatistics::timeAndPortLines()
 
 void tst_PollingStatistics::threadLinesAndProblemTags()
 {
-    Device *device = polledDevice(QStringLiteral("meter"), 2, 30);
+    // Slow enough for every tick to be served, even under a sanitizer.
+    Device *device = polledDevice(QStringLiteral("meter"), 2, 200);
     QVERIFY(m_port->attachDeviceToPeriodRequest(device));
     PortThread *thread = m_port->portThread();
     QTRY_VERIFY(thread->failedRequestsCount() >= 4);
