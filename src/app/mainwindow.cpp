@@ -60,7 +60,7 @@ QString languageTitle(const QString &key)
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , ui(new Ui::MainWindow)
-    , m_server(new Server(this))
+    , m_server(new Server)
     , m_stats(new PollingStatistics(this))
 {
     qRegisterMetaType<ServerItem *>("ServerItem*");
@@ -104,6 +104,9 @@ MainWindow::MainWindow(QWidget *parent)
 MainWindow::~MainWindow()
 {
     connectTree(false);
+    // The tree is ours; the server takes no QObject parent.
+    m_editor->setItem(nullptr);
+    delete m_server;
     delete ui;
 }
 

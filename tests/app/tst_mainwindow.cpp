@@ -4,6 +4,7 @@
 #include "config/appsettings.h"
 #include "config/deviceadddialog.h"
 #include "config/devicetemplatecatalog.h"
+#include "config/saveastemplatedialog.h"
 #include "model/device.h"
 #include "model/port.h"
 #include "model/server.h"
@@ -12,9 +13,12 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -52,6 +56,7 @@ private slots:
     void currentItemOfRemovedDevice();
     void statisticsSavedUnderLog();
     void saveActionAsks();
+    void saveDeviceAsTemplate();
     void languageBoxSwitchesWindow();
 
 private:
@@ -619,6 +624,43 @@ void tst_MainWindow::saveActionAsks()
     QVERIFY(QFile::exists(file));
     QVERIFY(!m_window->isWindowModified());
     QVERIFY(!action("actionSave")->isEnabled());
+}
+
+void tst_MainWindow::saveDeviceAsTemplate()
+{
+    BoxRecorder boxes;
+    Port *port = m_window->server()->addPort(QStringLiteral("p"));
+    m_window->addPortInTree(port);
+    Device *device = addDevice(port, QStringLiteral("tank"), QStringLiteral("Zolt-21"));
+    device->tags().first()->setValue(std::nan(""));
+    m_window->setCurrentServerItem(device);
+
+    // "No" to the Not-a-Number question ends the command before the dialog.
+    boxes.answers << QMessageBox::No;
+    action("actionSaveAsTemplate")->trigger();
+    QVERIFY(device->hasTagsWithNan());
+
+    bool okEnabledForBuiltIn = true;
+    onNextDialog<SaveAsTemplateDialog>([&okEnabledForBuiltIn](SaveAsTemplateDialog *dialog) {
+        auto *name = dialog->findChild<QLineEdit *>(QStringLiteral("le_id"));
+        auto *ok = dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok);
+        QCOMPARE(name->text(), QStringLiteral("tank"));
+        // A name whose file the catalogue holds can't be taken.
+        name->setText(QStringLiteral("Zolt-21"));
+        okEnabledForBuiltIn = ok->isEnabled();
+        name->setText(QStringLiteral("tank_a"));
+        ok->click();
+    });
+    boxes.answers << QMessageBox::Cancel; // fixes the tags as Yes does
+    action("actionSaveAsTemplate")->trigger();
+    QVERIFY(!okEnabledForBuiltIn);
+    QVERIFY(!device->hasTagsWithNan());
+    const QString file = AppSettings::templates_dir() + QStringLiteral("/tank_a.tpl");
+    QVERIFY(QFile::exists(file));
+    const QVariantMap saved
+        = DeviceTemplateCatalog::instance()->template_map(QStringLiteral("tank_a"));
+    QCOMPARE(saved.value(QStringLiteral("id")).toString(), QStringLiteral("Zolt-21"));
+    QCOMPARE(boxes.requests.size(), 2);
 }
 
 void tst_MainWindow::languageBoxSwitchesWindow()
