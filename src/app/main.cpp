@@ -4,6 +4,7 @@
 #include "app/sighandler.h"
 #include "config/appsettings.h"
 #include "config/devicetemplatecatalog.h"
+#include "exchange/modbuslogger.h"
 
 #include <QRect>
 #include <QScreen>
@@ -22,7 +23,8 @@ int main(int argc, char *argv[])
     auto *app = new Application(argc, argv);
     Application::loadTranslations(QStringLiteral(":/lang"));
 
-    // TODO(traffic log): ModbusLogger::instance() goes here.
+    // Made here so that the frame tap lives in the interface thread.
+    ModbusLogger::instance();
 
     DeviceTemplateCatalog::instance()->loadTemplates(AppSettings::templates_dir());
     auto *window = new MainWindow;
@@ -41,7 +43,7 @@ int main(int argc, char *argv[])
     delete window;
     DeviceTemplateCatalog::release();
     AppSettings::release();
-    // TODO(traffic log): delete the ModbusLogger here.
+    ModbusLogger::release();
     delete DebugQt::instance();
     delete app;
     return code;

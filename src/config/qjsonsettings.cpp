@@ -47,6 +47,7 @@ bool QJsonSettings::readJsonFile(QIODevice &device, QSettings::SettingsMap &map)
 bool QJsonSettings::writeJsonFile(QIODevice &device, const QSettings::SettingsMap &map)
 {
     const QJsonDocument document(QJsonObject::fromVariantMap(map));
-    device.write(document.toJson(QJsonDocument::Indented));
-    return true;
+    const QByteArray bytes = document.toJson(QJsonDocument::Indented);
+    // A short write (a full disk) must fail the save, so the old file stays whole.
+    return device.write(bytes) == bytes.size();
 }
