@@ -2,6 +2,7 @@
 #include "ui_scanwidget.h"
 
 #include "app/debugqt.h"
+#include "app/messagebox.h"
 #include "config/utils.h"
 #include "model/port.h"
 #include "model/server.h"
@@ -263,6 +264,13 @@ void ScanWidget::on_startButton_clicked()
     clearTree();
     if (!ui->startButton->isEnabled())
         return;
+    // The scanner works outside the port lock: a polled line must not be scanned.
+    if (m_server && m_server->isPortsThreadWorked()) {
+        MessageBox::warning(this, MessageBox::appTitle(),
+                            tr("You have periodically requested devices!\n"
+                               "Stop devices requesting and try again."));
+        return;
+    }
     const ScanTask task = scanTask();
     // The scanner needs the lines to itself.
     if (m_server) {

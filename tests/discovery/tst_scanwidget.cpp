@@ -1,7 +1,9 @@
 #ifdef SIM_BINARY
 #include "../sim/simprocess.h"
 #endif
+#include "app/messagebox.h"
 #include "discovery/scanwidget.h"
+#include "model/device.h"
 #include "model/port.h"
 #include "model/server.h"
 
@@ -32,6 +34,7 @@ private slots:
     void hitsGroupedByLine();
     void onlyCheckedHitsAreAppended();
     void doubleClickAppendsOneDevice();
+    void noScanWhilePolling();
 #ifdef SIM_BINARY
     void scanFromThePage();
 #endif
@@ -271,6 +274,31 @@ void tst_ScanWidget::doubleClickAppendsOneDevice()
     expected[lineA].insert(6, hit(lineA, 6, 3));
     QCOMPARE(one.at(0).at(0).value<ScanResult>(), expected);
     QCOMPARE(six->checkState(1), Qt::Checked);
+}
+
+void tst_ScanWidget::noScanWhilePolling()
+{
+    Server server;
+    Port *port = server.addPort(QStringLiteral("polled"));
+    port->setSerialName(QStringLiteral("/nonexistent/ttyP"));
+    Device *device = port->addDevice(QStringLiteral("dev"));
+    QVERIFY(port->attachDeviceToPeriodRequest(device));
+    QVERIFY(server.isPortsThreadWorked());
+    m_page->setServer(&server);
+    box(QStringLiteral("/dev/ttyA"))->setChecked(true);
+
+    QList<MessageBox::Request> asked;
+    MessageBox::setHook([&](const MessageBox::Request &request) {
+        asked << request;
+        return QMessageBox::Ok;
+    });
+    child<QPushButton>("startButton")->click();
+    MessageBox::setHook(MessageBox::Hook());
+    port->detachDeviceFromPeriodRequest(device);
+    // One warning, and no scan that would have asked about /dev/ttyA.
+    QCOMPARE(asked.size(), 1);
+    QVERIFY(
+        asked.first().text.startsWith(QStringLiteral("You have periodically requested devices!")));
 }
 
 #ifdef SIM_BINARY
