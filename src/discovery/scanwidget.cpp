@@ -215,8 +215,8 @@ void ScanWidget::setScanSettings(const QMap<QString, QVariant> &settings)
         checkTexts(m_protocolBoxes, settings.value(key(keyProtocols)).toStringList());
     if (settings.contains(key(keyUse17)))
         ui->func17CheckBox->setChecked(settings.value(key(keyUse17)).toBool());
-    if (settings.contains(key(keyUse3Read)))
-        ui->func3CheckBox->setChecked(settings.value(key(keyUse3Read)).toBool());
+    // Never written under this key, so in practice the box returns to unchecked.
+    ui->func3CheckBox->setChecked(settings.value(key(keyUse3Read)).toBool());
     if (settings.contains(key(keyFunc3Addr)))
         ui->func3AddressSpin->setValue(settings.value(key(keyFunc3Addr)).toInt());
     // The upper bound first, so that the spins do not pull each other off the saved pair.
