@@ -3,6 +3,7 @@
 #include "config/devicetemplatecatalog.h"
 #include "discovery/scanner.h"
 #include "discovery/scanresultimporter.h"
+#include "exchange/modbuslogger.h"
 #include "model/device.h"
 #include "model/port.h"
 #include "model/server.h"
@@ -109,6 +110,7 @@ void tst_Scanner::findsTheInstruments()
     Scanner scanner;
     scanner.setScanTask(task(baud, 1, 7, function == 17, function == 3));
     QSignalSpy founded(&scanner, &Scanner::deviceFounded);
+    QSignalSpy txLines(ModbusLogger::instance(), &ModbusLogger::txData);
     scanner.start();
 
     const SerialPortSettings settings(m_sim->path(), baud, line8N1);
@@ -138,6 +140,12 @@ void tst_Scanner::findsTheInstruments()
     }
     QCOMPARE(scanner.stepCount(), 7);
     QCOMPARE(scanner.progressMaximum(), 6);
+    // Every request reaches the traffic tap, marked with the scan's line.
+    QCOMPARE(txLines.size(), 7);
+    const QString context
+        = QStringLiteral(" SCAN %1/%2/8N1 TX(-/-): ").arg(m_sim->path()).arg(baud);
+    QVERIFY2(txLines.at(0).at(0).toString().contains(context),
+             qPrintable(txLines.at(0).at(0).toString()));
     QVERIFY(!scanner.progressDialog());
 }
 
