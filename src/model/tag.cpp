@@ -5,10 +5,9 @@
 #include "exchange/byteswapper.h"
 #include "model/device.h"
 
-#include <QReadLocker>
 #include <QRegularExpression>
-#include <QWriteLocker>
 
+#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -171,14 +170,14 @@ uint Tag::addressFromText(const QString &text)
 
 QVariant Tag::value() const
 {
-    QReadLocker locker(&m_valueLock);
+    std::shared_lock locker(m_valueLock);
     return m_value;
 }
 
 void Tag::setValue(const QVariant &value)
 {
     {
-        QWriteLocker locker(&m_valueLock);
+        std::unique_lock locker(m_valueLock);
         m_value = value;
         setTimeStamp(QDateTime::currentDateTime());
     }
@@ -187,13 +186,13 @@ void Tag::setValue(const QVariant &value)
 
 QDateTime Tag::timestamp() const
 {
-    QReadLocker locker(&m_timeLock);
+    std::shared_lock locker(m_timeLock);
     return m_timestamp;
 }
 
 void Tag::setTimeStamp(const QDateTime &time)
 {
-    QWriteLocker locker(&m_timeLock);
+    std::unique_lock locker(m_timeLock);
     m_timestamp = time;
 }
 
@@ -534,7 +533,7 @@ QVariantMap Tag::save() const
     if (m_deviceType == dtFloat32 || m_deviceType == dtFloat64)
         map.insert(QStringLiteral("value"), valueToString());
     else
-        map.insert(QStringLiteral("value"), m_value);
+        map.insert(QStringLiteral("value"), value()); // under the lock: a poll may be writing it
     map.insert(QStringLiteral("limits"), m_limits);
     if (!m_values.isEmpty())
         map.insert(QStringLiteral("values"), m_values);
@@ -583,19 +582,14 @@ static void copyInto(ModbusValue &value, const QByteArray &bytes, int width)
 
 void Tag::tagRequesting()
 {
-    QMutexLocker locker(&m_requestMutex);
+    std::lock_guard locker(m_requestMutex);
     m_requestDone = false;
 }
 
 bool Tag::waitTagRequested(int timeoutMs)
 {
-    QMutexLocker locker(&m_requestMutex);
-    QDeadlineTimer deadline(timeoutMs);
-    while (!m_requestDone) {
-        if (!m_requested.wait(&m_requestMutex, deadline))
-            return m_requestDone;
-    }
-    return true;
+    std::unique_lock locker(m_requestMutex);
+    return m_requested.wait_for(locker, std::chrono::milliseconds(timeoutMs), [this] { return m_requestDone; });
 }
 
 void Tag::finishRequest(int state, const char *verb)
@@ -605,9 +599,9 @@ void Tag::finishRequest(int state, const char *verb)
     updateState(state);
     if (state != ResultGood)
         LOG_INFO << QStringLiteral("error %1 tag '%2' - %3").arg(QLatin1String(verb), fullName(), errorString());
-    QMutexLocker locker(&m_requestMutex);
+    std::lock_guard locker(m_requestMutex);
     m_requestDone = true;
-    m_requested.wakeAll();
+    m_requested.notify_all();
 }
 
 QVariant Tag::read()
@@ -794,7 +788,7 @@ bool Tag::write(const QVariant &newValue)
         return false;
     }
     {
-        QWriteLocker locker(&m_valueLock);
+        std::unique_lock locker(m_valueLock);
         m_value = newValue;
     }
     const bool deviceFlag = applySwapFlagRule();

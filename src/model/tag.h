@@ -5,11 +5,12 @@
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QMutex>
-#include <QReadWriteLock>
 #include <QStringList>
 #include <QVariant>
-#include <QWaitCondition>
+
+#include <condition_variable>
+#include <mutex>
+#include <shared_mutex>
 
 class Device;
 
@@ -203,8 +204,9 @@ private:
     QDateTime m_timestamp;
     QByteArray m_rawBuffer;
     int m_requestState = 0;
-    mutable QReadWriteLock m_valueLock;
-    mutable QReadWriteLock m_timeLock;
+    // Standard locks rather than Qt's, so that ThreadSanitizer can follow them.
+    mutable std::shared_mutex m_valueLock;
+    mutable std::shared_mutex m_timeLock;
     QString m_address = QStringLiteral("0");
     int m_requestDelay = 1;
     int m_requestsQueued = 0;
@@ -222,8 +224,8 @@ private:
     int m_registersCount = 0;
     QStringList m_tagsGroup;
 
-    QWaitCondition m_requested;
-    QMutex m_requestMutex;
+    std::condition_variable m_requested;
+    std::mutex m_requestMutex;
     bool m_requestDone = true;
 };
 
