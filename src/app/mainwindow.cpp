@@ -11,6 +11,8 @@
 #include "config/deviceadddialog.h"
 #include "config/devicetemplatecatalog.h"
 #include "config/saveastemplatedialog.h"
+#include "discovery/scanresultimporter.h"
+#include "discovery/scanwidget.h"
 #include "exchange/pollingstatistics.h"
 #include "model/device.h"
 #include "model/port.h"
@@ -68,6 +70,13 @@ MainWindow::MainWindow(QWidget *parent)
 
     m_editor = new ServerItemEditor(ui->editorPane);
     ui->editorLayout->addWidget(m_editor);
+
+    m_scanWidget = new ScanWidget(ui->tabScan);
+    m_scanWidget->setServer(m_server);
+    ui->scanLayout->addWidget(m_scanWidget);
+    connect(m_scanWidget, &ScanWidget::appendRequested, this, &MainWindow::onAppendRequested);
+    connect(m_scanWidget, &ScanWidget::appendOneDevice, this, &MainWindow::onAppendOneDevice);
+
     ui->splitter->setStretchFactor(0, 0);
     ui->splitter->setStretchFactor(1, 1);
     ui->splitter->setSizes({300, 900});
@@ -690,7 +699,7 @@ bool MainWindow::saveConfigFile(const QString &path)
     AppSettings *settings = AppSettings::instance();
     settings->setConfigComment(ui->txtConfigComment->text());
     settings->setServerMap(m_server->save());
-    // The scan page keeps the scan settings it was given until it exists.
+    settings->setScanSettings(m_scanWidget->scanSettings());
     settings->setGeometry(saveGeometry());
     settings->setSplitter(ui->splitter->saveState());
     QString current;
@@ -907,6 +916,7 @@ bool MainWindow::loadConfigData()
 {
     AppSettings *settings = AppSettings::instance();
     const bool ok = m_server->load(settings->serverMap());
+    m_scanWidget->setScanSettings(settings->scanSettings());
     if (ok && m_rootItem->childCount() > 0)
         ui->treeWidget->setCurrentItem(m_rootItem->child(0));
     setCurrentFile(AppSettings::cfg_fn());
@@ -1118,4 +1128,46 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     connectTree(false);
     event->accept();
+}
+
+// Scan page: hits chosen on the page become ports and devices of the tree.
+
+void MainWindow::onAppendRequested()
+{
+    appendScannedDevices(m_scanWidget->scanResult());
+}
+
+void MainWindow::onAppendOneDevice(const ScanResult &result)
+{
+    appendScannedDevices(result);
+}
+
+void MainWindow::appendScannedDevices(const ScanResult &result)
+{
+    ScanResultImporter importer(m_server);
+    importer.setClashQuestion([this](int address, const Port *port) {
+        return MessageBox::warning(
+                   this, QLatin1String(AppTitle),
+                   tr("device with address %1 already exists on port %2. To add device?")
+                       .arg(address)
+                       .arg(port->name()),
+                   QMessageBox::Yes | QMessageBox::Cancel, QMessageBox::Yes)
+            == QMessageBox::Yes;
+    });
+    importer.setTemplateApplier([this](Device *device, const QString &templateName) {
+        setDeviceTemplate(device, templateName);
+    });
+    connect(&importer, &ScanResultImporter::portAdded, this,
+            [this](Port *port) { addPortInTree(port); });
+    connect(&importer, &ScanResultImporter::deviceAdded, this, [this](Port *port, Device *device) {
+        addDeviceInTree(port, device);
+        updateDeviceStatusInTree(device);
+    });
+    const int count = int(importer.append(result).size());
+    if (count > 0) {
+        serverModified();
+        MessageBox::information(this, tr("Information"), tr("%1 device(s) appended").arg(count));
+    } else {
+        MessageBox::warning(this, tr("Warning"), tr("No devices were appended"));
+    }
 }

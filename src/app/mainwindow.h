@@ -1,6 +1,8 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "discovery/foundeddevice.h"
+
 #include <QMainWindow>
 #include <QMap>
 #include <QPointer>
@@ -13,6 +15,7 @@ class Port;
 class QComboBox;
 class QLabel;
 class QTreeWidgetItem;
+class ScanWidget;
 class Server;
 class ServerItem;
 class ServerItemEditor;
@@ -50,6 +53,10 @@ public:
     void updateDeviceStatusInTree(Device *device);
     void updatePortStatusInTree(Port *port);
     void setDeviceTemplate(Device *device, const QString &templateId);
+
+    // Scan page.
+    ScanWidget *scanWidget() const { return m_scanWidget; }
+    void appendScannedDevices(const ScanResult &result);
 
     // Files.
     bool loadConfigFile(const QString &path);
@@ -99,6 +106,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private slots:
+    void onAppendRequested();
+    void onAppendOneDevice(const ScanResult &result);
     void onServerLoaded();
     void onChanged(ServerItem *item);
     void onEditorAdded();
@@ -131,6 +140,7 @@ private:
     Server *m_server;
     PollingStatistics *m_stats;
     ServerItemEditor *m_editor;
+    ScanWidget *m_scanWidget;
     QTreeWidgetItem *m_rootItem;
     QMap<ServerItem *, QTreeWidgetItem *> m_items;
     QVariantMap m_clipboard;

@@ -62,6 +62,12 @@ private slots:
 private:
     Device *addDevice(Port *port, const QString &name, const QString &templateName);
     QAction *action(const char *name) const;
+    // The scan page has a tree of the same name: look on the devices page.
+    QTreeWidget *deviceTree() const
+    {
+        return m_window->findChild<QWidget *>(QStringLiteral("tabDevices"))
+            ->findChild<QTreeWidget *>(QStringLiteral("treeWidget"));
+    }
     void selectTab(int index);
 
     std::unique_ptr<ScopedWorkDir> m_dir;
@@ -215,7 +221,7 @@ void tst_MainWindow::actionTable()
         m_window->copy();
     }
 
-    QTreeWidget *tree = m_window->findChild<QTreeWidget *>(QStringLiteral("treeWidget"));
+    QTreeWidget *tree = deviceTree();
     if (current == QLatin1String("none")) {
         tree->setCurrentItem(nullptr);
     } else if (current == QLatin1String("root")) {
@@ -561,11 +567,8 @@ void tst_MainWindow::currentItemOfRemovedDevice()
     // Reopened with the saved device: it is selected once the event loop turns.
     m_window.reset();
     m_window = std::make_unique<MainWindow>();
-    QTRY_COMPARE(
-        MainWindow::serverItem(
-            m_window->findChild<QTreeWidget *>(QStringLiteral("treeWidget"))->currentItem())
-            ->name(),
-        QStringLiteral("gone"));
+    QTRY_COMPARE(MainWindow::serverItem(deviceTree()->currentItem())->name(),
+                 QStringLiteral("gone"));
 
     // Without it, the selection made by the load (the first item) stays.
     Port *loaded = m_window->server()->ports().first();
