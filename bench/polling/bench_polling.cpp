@@ -1,6 +1,6 @@
 // Polling throughput and cost, against regdesk-sim on a pseudo-terminal.
 //
-//   bench_polling [--log]
+//   bench_polling [--log] [--cpu]
 //
 // 1. Polled tags per second with the simulator emulating line time at 115200
 //    and 9600 baud, against the limit of that line: request and reply frame
@@ -9,6 +9,7 @@
 // 2. CPU time of this process (the polling engine with its logging) while it
 //    polls 200 tags every 100 ms: 25 instruments of 8 float channels.
 // The log goes to /dev/null unless --log is given; the figures go to stdout.
+// --cpu runs the second part only.
 #include "app/debugqt.h"
 #include "exchange/portthread.h"
 #include "exchange/worker.h"
@@ -190,6 +191,7 @@ int main(int argc, char *argv[])
 {
     QCoreApplication app(argc, argv);
     const bool log = app.arguments().contains(QStringLiteral("--log"));
+    const bool cpuOnly = app.arguments().contains(QStringLiteral("--cpu"));
     // The engine logs as the application does; only the figures are wanted here.
     DebugQt::instance(DebugQt::StartFlags, nullptr);
     if (!log && !std::freopen("/dev/null", "w", stderr))
@@ -204,25 +206,29 @@ int main(int argc, char *argv[])
             return 1;
     }
 
-    std::printf("Polling throughput (1 instrument, %d float channels every 10 ms, line emulated by "
-                "regdesk-sim):\n",
-                Channels);
-    struct Line
-    {
-        int baud;
-        int pauseMs;
-        int windowMs;
-    };
-    for (const Line &line : {Line {115200, 1, 6000}, Line {9600, 4, 8000}}) {
-        const Result r = poll(tpl, line.baud, true, 1, 10, 1500, line.windowMs, true);
-        const double limit = lineLimit(line.baud, line.pauseMs);
-        std::printf("  %6d baud: %6.1f tags/s, line limit %6.1f tags/s (%.1f %%), failed %llu;\n"
-                    "              exchange %.1f ms on average; the same tags read in a plain "
-                    "loop: %.1f tags/s\n",
-                    line.baud, r.tagsPerSecond, limit, 100.0 * r.tagsPerSecond / limit,
-                    (unsigned long long)r.failed, r.avgExchangeMs, r.directPerSecond);
+    if (!cpuOnly) {
+        std::printf(
+            "Polling throughput (1 instrument, %d float channels every 10 ms, line emulated by "
+            "regdesk-sim):\n",
+            Channels);
+        struct Line
+        {
+            int baud;
+            int pauseMs;
+            int windowMs;
+        };
+        for (const Line &line : {Line {115200, 1, 6000}, Line {9600, 4, 8000}}) {
+            const Result r = poll(tpl, line.baud, true, 1, 10, 1500, line.windowMs, true);
+            const double limit = lineLimit(line.baud, line.pauseMs);
+            std::printf(
+                "  %6d baud: %6.1f tags/s, line limit %6.1f tags/s (%.1f %%), failed %llu;\n"
+                "              exchange %.1f ms on average; the same tags read in a plain "
+                "loop: %.1f tags/s\n",
+                line.baud, r.tagsPerSecond, limit, 100.0 * r.tagsPerSecond / limit,
+                (unsigned long long)r.failed, r.avgExchangeMs, r.directPerSecond);
+        }
+        std::fflush(stdout);
     }
-    std::fflush(stdout);
 
     std::printf("CPU time of polling 200 tags every 100 ms (25 instruments x %d channels), 10 s:\n",
                 Channels);

@@ -15,8 +15,8 @@ class PollingStatistics : public QObject
     Q_OBJECT
 public:
     // Refresh of the text and blink of the action while a thread polls.
-    static const int UpdateInterval = 3000;
-    static const int BlinkInterval = 1000;
+    static constexpr int UpdateInterval = 3000;
+    static constexpr int BlinkInterval = 1000;
 
     explicit PollingStatistics(QObject *parent = nullptr);
 

@@ -68,6 +68,8 @@ bool PortThread::attachDevice(Device *device)
         if (tag && !tags.contains(tag)) {
             tags.append(tag);
             m_scheduler->addTag(tag);
+            // A tag removed by hand while polled must leave the queue first.
+            connect(tag, &Tag::deleting, this, &PortThread::onTagDeleting, Qt::DirectConnection);
         }
     }
     m_deviceTags.insert(device, tags);
@@ -79,10 +81,22 @@ bool PortThread::attachDevice(Device *device)
 void PortThread::removeDevice(Device *device)
 {
     const QList<Tag *> tags = m_deviceTags.take(device);
-    for (Tag *tag : tags)
+    for (Tag *tag : tags) {
+        disconnect(tag, &Tag::deleting, this, &PortThread::onTagDeleting);
         m_scheduler->removeTag(tag);
+    }
     m_worker->withdrawTags(tags);
     m_minPollingPeriod = m_scheduler->minPollingPeriod();
+}
+
+void PortThread::onTagDeleting(QObject *object)
+{
+    // Only the pointer is used: the tag is half destroyed.
+    Tag *tag = static_cast<Tag *>(object);
+    for (QList<Tag *> &tags : m_deviceTags)
+        tags.removeAll(tag);
+    m_scheduler->removeTag(tag);
+    m_worker->withdrawTags({tag});
 }
 
 Request *PortThread::tagToRequest(Tag *tag, bool write)

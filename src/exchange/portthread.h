@@ -71,6 +71,9 @@ signals:
 protected:
     void run() override;
 
+private slots:
+    void onTagDeleting(QObject *tag);
+
 private:
     Worker *m_worker;
     Scheduler *m_scheduler;

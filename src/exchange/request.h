@@ -14,7 +14,7 @@ public:
     enum Type { Read = 0, Write = 1 };
 
     // Priority of a typed request until its tag is set.
-    static const int TypedPriority = 65536;
+    static constexpr int TypedPriority = 65536;
 
     explicit Request(QObject *parent = nullptr);
 

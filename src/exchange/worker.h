@@ -22,9 +22,9 @@ class Worker : public QThread
 {
     Q_OBJECT
 public:
-    static const int DefaultQueueLimit = 10000;
+    static constexpr int DefaultQueueLimit = 10000;
     // Processing times kept for the average.
-    static const int TimeWindow = 1000;
+    static constexpr int TimeWindow = 1000;
 
     struct Stats
     {

@@ -116,7 +116,7 @@ public:
 
     // Polling. A thread per port is created at the first attached device and
     // ends with the last; the first device attached gets priority 100, the next 99...
-    static const int MaxPolledDevices = 100;
+    static constexpr int MaxPolledDevices = 100;
     bool attachDeviceToPeriodRequest(Device *device);
     bool detachDeviceFromPeriodRequest(Device *device);
     void stopPortThread();
