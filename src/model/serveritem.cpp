@@ -48,6 +48,18 @@ QVariantList ServerItem::listValue(const QVariant &value)
     return QVariantList();
 }
 
+QString ServerItem::errorString() const
+{
+    std::lock_guard locker(m_errorStringLock);
+    return m_errorString;
+}
+
+void ServerItem::setErrorString(const QString &text)
+{
+    std::lock_guard locker(m_errorStringLock);
+    m_errorString = text;
+}
+
 ServerItem *ServerItem::child(int index) const
 {
     return (index >= 0 && index < m_children.size()) ? m_children.at(index) : nullptr;
@@ -195,7 +207,7 @@ void ServerItem::resetState()
     m_state = StateNone;
     m_lastResult = ResultGood;
     m_errorCount = 0;
-    m_errorString = getErrorString(ResultGood, 0);
+    setErrorString(getErrorString(ResultGood, 0));
     emit stateChanged();
     for (ServerItem *item : qAsConst(m_children))
         item->resetState();

@@ -8,6 +8,9 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <atomic>
+#include <mutex>
+
 class Tag;
 
 // Base of the four levels of the item tree (Server, Port, Device, Tag): the
@@ -67,12 +70,14 @@ public:
     void setPriority(int priority);
     int priority() const;
 
+    // The result of the last exchange is written by polling threads and read
+    // by the window, hence atomics and a lock for the text.
     int state() const { return m_state; }
     int lastResult() const { return m_lastResult; }
     int errorCount() const { return m_errorCount; }
     void increaseErrorCount() { ++m_errorCount; }
-    QString errorString() const { return m_errorString; }
-    void setErrorString(const QString &text) { m_errorString = text; }
+    QString errorString() const;
+    void setErrorString(const QString &text);
     void updateState(int code);
     void resetState();
 
@@ -100,11 +105,12 @@ private:
     QList<ServerItem *> m_children;
     QMap<QString, ServerItem *> m_childrenByName;
     mutable QMap<QString, int> m_nameCounters;
-    int m_lastResult = ResultGood;
-    int m_state = StateNone;
+    std::atomic<int> m_lastResult{ResultGood};
+    std::atomic<int> m_state{StateNone};
+    mutable std::mutex m_errorStringLock;
     QString m_errorString;
     QString m_name;
-    int m_errorCount = 0;
+    std::atomic<int> m_errorCount{0};
 };
 
 #endif // SERVERITEM_H

@@ -14,11 +14,6 @@ extern "C" const char *__tsan_default_suppressions()
     return
         // QThread's end: the joiner's wait runs in libQt6Core.
         "race:QWaitCondition::~QWaitCondition\n"
-        // The tag's hand-over: QWaitCondition::wait unlocks and relocks the
-        // tag's QMutex inside libQt6Core, so the sanitizer believes the waiter
-        // still holds it.
-        "race:Tag::waitTagRequested\n"
-        "mutex:Tag::finishRequest\n"
         // glibc's time zone lock behind QDateTime's local time.
         "race:tzset_internal\n"
         // The glib event dispatcher of Qt's event loops.
