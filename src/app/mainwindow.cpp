@@ -107,11 +107,20 @@ MainWindow::MainWindow(QWidget *parent)
 
     loadConfig();
     updateActions();
+    qApp->installEventFilter(this);
     emit firstEvent();
+}
+
+// Every event of the application passes here first and goes on to the
+// application's own filter.
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    return qApp->QObject::eventFilter(watched, event);
 }
 
 MainWindow::~MainWindow()
 {
+    qApp->removeEventFilter(this);
     connectTree(false);
     // The tree is ours; the server takes no QObject parent.
     m_editor->setItem(nullptr);
@@ -999,6 +1008,10 @@ void MainWindow::applyAppSettings()
     const QFont font = settings->font();
     if (font.resolveMask() & QFont::FamiliesResolved
         || font.resolveMask() & QFont::FamilyResolved) {
+        // Small first, so that the tab bar doesn't keep a size taken from a larger font.
+        QFont small = font;
+        small.setPointSize(7);
+        ui->mainTabWidget->setFont(small);
         for (const char *className : FontClasses)
             QApplication::setFont(font, className);
         ui->mainTabWidget->setFont(font);
