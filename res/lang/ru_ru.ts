@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
     <name>DeviceAddDialog</name>
@@ -50,7 +51,7 @@
 <context>
     <name>DummyEditor</name>
     <message>
-        <source>Can't open help file</source>
+        <source>Can&apos;t open help file</source>
         <translation>Не удалось открыть файл справки</translation>
     </message>
 </context>
@@ -153,10 +154,6 @@
     <message>
         <source>Scanning</source>
         <translation>Сканирование</translation>
-    </message>
-    <message>
-        <source>The bus scan is not available in this version.</source>
-        <translation>Сканирование линии в этой версии недоступно.</translation>
     </message>
     <message>
         <source>Statistics</source>
@@ -395,12 +392,28 @@ To fix them to Null before saving template?</source>
         <translation>Требуется подтверждение</translation>
     </message>
     <message>
-        <source>Template '%1' already exists. Do you want to overwrite it?</source>
+        <source>Template &apos;%1&apos; already exists. Do you want to overwrite it?</source>
         <translation>Шаблон «%1» уже существует. Заменить его?</translation>
     </message>
     <message>
         <source>Device was saved as template in file %1</source>
         <translation>Прибор сохранён как шаблон в файл %1</translation>
+    </message>
+    <message>
+        <source>device with address %1 already exists on port %2. To add device?</source>
+        <translation>устройство с адресом %1 уже есть на порту %2. Добавить устройство?</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Информация</translation>
+    </message>
+    <message>
+        <source>%1 device(s) appended</source>
+        <translation>Добавлено устройств: %1</translation>
+    </message>
+    <message>
+        <source>No devices were appended</source>
+        <translation>Ни одно устройство не добавлено</translation>
     </message>
 </context>
 <context>
@@ -707,7 +720,7 @@ Stop devices requesting and try again.</source>
         <translation>Требуется подтверждение</translation>
     </message>
     <message>
-        <source>Error opening port '%1' (%2), continue?</source>
+        <source>Error opening port &apos;%1&apos; (%2), continue?</source>
         <translation>Ошибка открытия порта «%1» (%2). Продолжить?</translation>
     </message>
     <message>
@@ -766,7 +779,7 @@ Stop devices requesting and try again.</source>
         <translation>Выбор шрифта</translation>
     </message>
     <message>
-        <source>Changes w'll take effect after the program is restarted.</source>
+        <source>Changes w&apos;ll take effect after the program is restarted.</source>
         <translation>Изменения вступят в силу после перезапуска программы.</translation>
     </message>
 </context>
