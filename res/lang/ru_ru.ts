@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="en_US">
 <context>
+    <name>Device</name>
+    <message>
+        <source>form device</source>
+        <translation>из прибора</translation>
+    </message>
+    <message>
+        <source>from file</source>
+        <translation>из файла</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>изменено</translation>
+    </message>
+    <message>
+        <source>saved in device</source>
+        <translation>записано в прибор</translation>
+    </message>
+    <message>
+        <source>periodically requested</source>
+        <translation>опрашивается периодически</translation>
+    </message>
+    <message>
+        <source>illegal data value</source>
+        <translation>недопустимое значение данных</translation>
+    </message>
+    <message>
+        <source>the device is busy with another request</source>
+        <translation>прибор занят другим запросом</translation>
+    </message>
+    <message>
+        <source>request accepted for execution</source>
+        <translation>запрос принят к исполнению</translation>
+    </message>
+    <message>
+        <source>device busy</source>
+        <translation>прибор занят</translation>
+    </message>
+    <message>
+        <source>unknown answer</source>
+        <translation>неизвестный ответ</translation>
+    </message>
+    <message>
+        <source>Template version does not match device version!</source>
+        <translation>Версия шаблона не соответствует версии прибора!</translation>
+    </message>
+    <message>
+        <source>Invalid device firmware date (&apos;%1&apos;)</source>
+        <translation>Неверная дата прошивки прибора (&apos;%1&apos;)</translation>
+    </message>
+    <message>
+        <source>Device firmware date (%1) is less than template date (%2).</source>
+        <translation>Дата прошивки прибора (%1) меньше даты шаблона (%2).</translation>
+    </message>
+</context>
+<context>
     <name>DeviceAddDialog</name>
     <message>
         <source>Select device template...</source>
@@ -414,6 +469,25 @@ To fix them to Null before saving template?</source>
     <message>
         <source>No devices were appended</source>
         <translation>Ни одно устройство не добавлено</translation>
+    </message>
+</context>
+<context>
+    <name>Port</name>
+    <message>
+        <source>Device &apos;%1&apos; cannot be polled: port &apos;%2&apos; polls at most %3 devices</source>
+        <translation>Прибор &apos;%1&apos; не может опрашиваться: порт &apos;%2&apos; опрашивает не более %3 приборов</translation>
+    </message>
+    <message>
+        <source>The polling queue of port &apos;%1&apos; is full: request of &apos;%2&apos; dropped</source>
+        <translation>Очередь опроса порта &apos;%1&apos; переполнена: запрос &apos;%2&apos; отброшен</translation>
+    </message>
+    <message>
+        <source>Polling of port &apos;%1&apos; stopped before the request of &apos;%2&apos;</source>
+        <translation>Опрос порта &apos;%1&apos; остановлен до выполнения запроса &apos;%2&apos;</translation>
+    </message>
+    <message>
+        <source>The request of &apos;%1&apos; waited in the polling queue of port &apos;%2&apos; for more than %3 ms</source>
+        <translation>Запрос &apos;%1&apos; ждал в очереди опроса порта &apos;%2&apos; дольше %3 мс</translation>
     </message>
 </context>
 <context>
