@@ -28,6 +28,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollArea>
 #include <QLocale>
 #include <QSaveFile>
 #include <QScrollBar>
@@ -71,9 +72,14 @@ MainWindow::MainWindow(QWidget *parent)
     m_editor = new ServerItemEditor(ui->editorPane);
     ui->editorLayout->addWidget(m_editor);
 
-    m_scanWidget = new ScanWidget(ui->tabScan);
+    // The scan page is tall; it scrolls rather than make the window outgrow a laptop screen.
+    auto *scanScroll = new QScrollArea(ui->tabScan);
+    scanScroll->setWidgetResizable(true);
+    scanScroll->setFrameShape(QFrame::NoFrame);
+    m_scanWidget = new ScanWidget;
     m_scanWidget->setServer(m_server);
-    ui->scanLayout->addWidget(m_scanWidget);
+    scanScroll->setWidget(m_scanWidget);
+    ui->scanLayout->addWidget(scanScroll);
     connect(m_scanWidget, &ScanWidget::appendRequested, this, &MainWindow::onAppendRequested);
     connect(m_scanWidget, &ScanWidget::appendOneDevice, this, &MainWindow::onAppendOneDevice);
 
