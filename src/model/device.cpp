@@ -739,6 +739,46 @@ bool Device::openPort(int baudIndex, int parityIndex, int protocol, int delimite
     return false;
 }
 
+int Device::openFailureState(Port *p)
+{
+    // A failed connect leaves the port's state as it was: never report that as success.
+    setErrorString(p->errorString());
+    return p->lastResult() == ResultGood ? int(ResultPortError) : p->lastResult();
+}
+
+int Device::takeExchangeResult(Port *p, const QString &rx, const QString &tx)
+{
+    if (!tx.isEmpty())
+        sendModbusMessage(tx);
+    if (!rx.isEmpty())
+        sendModbusMessage(rx);
+    const int state = p->lastResult();
+    setErrorString(p->errorString());
+    updateState(state);
+    return state;
+}
+
+// The closing line, the close on error if asked, the pause that keeps the line
+// quiet, and the release of the port.
+int Device::finishExchange(Port *p, int state, const QString &verb, const QString &name)
+{
+    if (state == ResultGood) {
+        sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(m_processingTime));
+    } else {
+        const QString text = QStringLiteral("error %1 %2 '%3' - %4 (%5ms)")
+                                 .arg(state)
+                                 .arg(verb, name, errorString())
+                                 .arg(m_processingTime);
+        LOG_INFO << text;
+        sendModbusMessage(text);
+        if (isClosePortIfError())
+            p->close();
+    }
+    pauseAfterExchange();
+    p->portLock()->release();
+    return state;
+}
+
 void Device::pauseAfterExchange()
 {
     mySleep(requestTimeout() > 0 ? requestTimeout() : getDelayByBaudrate());
@@ -763,9 +803,7 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
     p->portLock()->acquire();
     int state;
     if (!openPort()) {
-        // A failed connect leaves the port's state as it was: never report that as success.
-        state = p->lastResult() == ResultGood ? int(ResultPortError) : p->lastResult();
-        setErrorString(p->errorString());
+        state = openFailureState(p);
     } else {
         m_processingTime = 0;
         QElapsedTimer timer;
@@ -803,29 +841,9 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
                            {QStringLiteral("length"), lengthInBytes},
                            {QStringLiteral("buffer"), out}};
         }
-        if (!tx.isEmpty())
-            sendModbusMessage(tx);
-        if (!rx.isEmpty())
-            sendModbusMessage(rx);
-        state = p->lastResult();
-        setErrorString(p->errorString());
-        updateState(state);
+        state = takeExchangeResult(p, rx, tx);
     }
-    if (state == ResultGood) {
-        sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(m_processingTime));
-    } else {
-        const QString text = QStringLiteral("error %1 reading '%2' - %3 (%4ms)")
-                                 .arg(state)
-                                 .arg(name, errorString())
-                                 .arg(m_processingTime);
-        LOG_INFO << text;
-        sendModbusMessage(text);
-        if (isClosePortIfError())
-            p->close();
-    }
-    pauseAfterExchange();
-    p->portLock()->release();
-    return state;
+    return finishExchange(p, state, QStringLiteral("reading"), name);
 }
 
 int Device::write(const QString &name, int addr, int func, int lengthInBytes, const QByteArray &data)
@@ -836,9 +854,7 @@ int Device::write(const QString &name, int addr, int func, int lengthInBytes, co
     p->portLock()->acquire();
     int state;
     if (!openPort()) {
-        // A failed connect leaves the port's state as it was: never report that as success.
-        state = p->lastResult() == ResultGood ? int(ResultPortError) : p->lastResult();
-        setErrorString(p->errorString());
+        state = openFailureState(p);
     } else {
         m_processingTime = 0;
         QElapsedTimer timer;
@@ -852,29 +868,9 @@ int Device::write(const QString &name, int addr, int func, int lengthInBytes, co
         else
             p->write_registers(label, address(), addr, func, data, rx, tx, byteSwappingEnabled());
         m_processingTime = int(timer.elapsed());
-        if (!tx.isEmpty())
-            sendModbusMessage(tx);
-        if (!rx.isEmpty())
-            sendModbusMessage(rx);
-        state = p->lastResult();
-        setErrorString(p->errorString());
-        updateState(state);
+        state = takeExchangeResult(p, rx, tx);
     }
-    if (state == ResultGood) {
-        sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(m_processingTime));
-    } else {
-        const QString text = QStringLiteral("error %1 writing '%2' - %3 (%4ms)")
-                                 .arg(state)
-                                 .arg(name, errorString())
-                                 .arg(m_processingTime);
-        LOG_INFO << text;
-        sendModbusMessage(text);
-        if (isClosePortIfError())
-            p->close();
-    }
-    pauseAfterExchange();
-    p->portLock()->release();
-    return state;
+    return finishExchange(p, state, QStringLiteral("writing"), name);
 }
 
 // Runs the probe that the modbus_id names; on success fills the device id and reply text.

@@ -216,6 +216,9 @@ private:
     bool openPortForExchange(Port *port);
     void copyLineSettingsFrom(const Port *port);
     void pauseAfterExchange();
+    int openFailureState(Port *port);
+    int takeExchangeResult(Port *port, const QString &rx, const QString &tx);
+    int finishExchange(Port *port, int state, const QString &verb, const QString &name);
     QString exchangeLabel(const QString &name) const;
 
     QVariantMap snapshot() const;
