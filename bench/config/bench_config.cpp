@@ -17,7 +17,7 @@
 
 static long peakRssKiB()
 {
-    rusage usage{};
+    rusage usage {};
     getrusage(RUSAGE_SELF, &usage);
     return usage.ru_maxrss;
 }
@@ -43,10 +43,11 @@ static void fillTree(Server &server, int ports, int devices, int tags)
                            {"read_func", 3},
                            {"write_func", 16},
                            {"comment", QStringLiteral("Параметр %1").arg(t)},
-                           {"limits", QVariantList{0, 1000}},
-                           {"config_group", QStringList{t < 4 ? "Channel" : "Control", "Группа"}},
-                           {"values", t % 10 == 0 ? QVariantMap{{"0", "выключено"}, {"1", "включено"}}
-                                                  : QVariantMap()},
+                           {"limits", QVariantList {0, 1000}},
+                           {"config_group", QStringList {t < 4 ? "Channel" : "Control", "Группа"}},
+                           {"values",
+                            t % 10 == 0 ? QVariantMap {{"0", "выключено"}, {"1", "включено"}}
+                                        : QVariantMap()},
                            {"value", t * 1.5}});
             }
         }
@@ -74,8 +75,8 @@ int main(int argc, char *argv[])
     const qint64 treeMs = timer.elapsed();
     const bool saved = settings->save();
     const qint64 saveMs = timer.elapsed();
-    out << "save: " << saveMs << " ms (tree " << treeMs << " ms, file " << saveMs - treeMs << " ms, "
-        << (saved ? "ok" : "FAILED") << "), size "
+    out << "save: " << saveMs << " ms (tree " << treeMs << " ms, file " << saveMs - treeMs
+        << " ms, " << (saved ? "ok" : "FAILED") << "), size "
         << QFileInfo(AppSettings::cfg_fn()).size() / 1024 << " KiB\n";
     out.flush();
 

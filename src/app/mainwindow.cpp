@@ -28,9 +28,9 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLabel>
-#include <QScrollArea>
 #include <QLocale>
 #include <QSaveFile>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusBar>

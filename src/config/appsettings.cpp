@@ -55,7 +55,7 @@ bool writtenAsExpected(const QString &file, const QVariantMap &serverMap)
         return false;
     QSettings::SettingsMap map;
     return QJsonSettings::readJsonFile(device, map)
-           && map.value(QStringLiteral("srv")).toMap() == serverMap;
+        && map.value(QStringLiteral("srv")).toMap() == serverMap;
 }
 
 } // namespace
@@ -92,17 +92,50 @@ void AppSettings::initPaths()
     p.cfgFileName.clear();
 }
 
-QString AppSettings::data_dir() { return paths().data; }
-QString AppSettings::cfg_dir() { return paths().cfg; }
-QString AppSettings::log_dir() { return paths().log; }
-QString AppSettings::archives_dir() { return createdDir(paths().archives); }
-QString AppSettings::device_archives_dir() { return createdDir(paths().deviceArchives); }
-QString AppSettings::templates_dir() { return createdDir(paths().templates); }
-QString AppSettings::css_dir() { return paths().css; }
-QString AppSettings::log_fn() { return joined(paths().log, QLatin1String(LogBaseName)); }
-QString AppSettings::startup_fn() { return joined(paths().cfg, QLatin1String(StartupBaseName)); }
-QString AppSettings::default_cfg_fn() { return joined(paths().cfg, QLatin1String(ConfigBaseName)); }
-QString AppSettings::cfg_fn() { return paths().cfgFileName; }
+QString AppSettings::data_dir()
+{
+    return paths().data;
+}
+QString AppSettings::cfg_dir()
+{
+    return paths().cfg;
+}
+QString AppSettings::log_dir()
+{
+    return paths().log;
+}
+QString AppSettings::archives_dir()
+{
+    return createdDir(paths().archives);
+}
+QString AppSettings::device_archives_dir()
+{
+    return createdDir(paths().deviceArchives);
+}
+QString AppSettings::templates_dir()
+{
+    return createdDir(paths().templates);
+}
+QString AppSettings::css_dir()
+{
+    return paths().css;
+}
+QString AppSettings::log_fn()
+{
+    return joined(paths().log, QLatin1String(LogBaseName));
+}
+QString AppSettings::startup_fn()
+{
+    return joined(paths().cfg, QLatin1String(StartupBaseName));
+}
+QString AppSettings::default_cfg_fn()
+{
+    return joined(paths().cfg, QLatin1String(ConfigBaseName));
+}
+QString AppSettings::cfg_fn()
+{
+    return paths().cfgFileName;
+}
 
 QString AppSettings::tagViewModeToString(int mode)
 {
@@ -130,8 +163,8 @@ void AppSettings::setLogViewLinesLimit(int limit)
 
 void AppSettings::createDefaultConfig()
 {
-    for (const QString &dir : {paths().cfg, paths().templates, paths().log, paths().archives,
-                               paths().deviceArchives}) {
+    for (const QString &dir :
+         {paths().cfg, paths().templates, paths().log, paths().archives, paths().deviceArchives}) {
         if (!QDir(dir).exists())
             QDir().mkpath(dir);
     }
@@ -200,7 +233,8 @@ void AppSettings::applyAppMap(const QVariantMap &constApp)
     m_currentItem = app[QStringLiteral("current_item")].toString();
     m_language = app[QStringLiteral("language")].toString();
     m_configComment = app[QStringLiteral("config_comment")].toString();
-    m_tagViewMode = TagViewMode(tagViewModeFromString(app[QStringLiteral("rt_tag_view_mode")].toString()));
+    m_tagViewMode
+        = TagViewMode(tagViewModeFromString(app[QStringLiteral("rt_tag_view_mode")].toString()));
     // Applied when present and sane, but never written back.
     if (app.contains(QStringLiteral("log_view_lines_limit")))
         setLogViewLinesLimit(app[QStringLiteral("log_view_lines_limit")].toInt());
@@ -218,7 +252,8 @@ QVariantMap AppSettings::appMap() const
     app.insert(QStringLiteral("autosave_default"), m_autosaveDefault);
     app.insert(QStringLiteral("font"), m_font.toString());
     app.insert(QStringLiteral("update_stat_by_timer"), m_updateStatByTimer);
-    app.insert(QStringLiteral("update_stat_timer"), m_updateStatTimer.toString(QLatin1String(TimeFormat)));
+    app.insert(QStringLiteral("update_stat_timer"),
+               m_updateStatTimer.toString(QLatin1String(TimeFormat)));
     app.insert(QStringLiteral("language"), m_language);
     app.insert(QStringLiteral("geometry"), QString::fromLatin1(m_geometry.toBase64()));
     app.insert(QStringLiteral("splitter"), QString::fromLatin1(m_splitter.toBase64()));

@@ -19,8 +19,9 @@ bool backupConfigFile(const QString &file, ConfigBackupError *error)
     const QString backup = file + QStringLiteral(".bak");
     QFile backupFile(backup);
     if (backupFile.exists() && !backupFile.remove()) {
-        return fail(error, QStringLiteral("Error"),
-                    QStringLiteral("can't remove file '%1', '%2'").arg(backup, backupFile.errorString()));
+        return fail(
+            error, QStringLiteral("Error"),
+            QStringLiteral("can't remove file '%1', '%2'").arg(backup, backupFile.errorString()));
     }
     QFile source(file);
     if (source.exists() && !source.copy(backup)) {
@@ -37,7 +38,8 @@ bool rollbackBackupConfigFile(const QString &file, ConfigBackupError *error)
         return false;
     const QString backup = file + QStringLiteral(".bak");
     if (!QFileInfo::exists(backup))
-        return fail(error, QStringLiteral("Error"), QStringLiteral("backup file '%1' not exists!").arg(backup));
+        return fail(error, QStringLiteral("Error"),
+                    QStringLiteral("backup file '%1' not exists!").arg(backup));
     QFile::remove(file);
     QFile backupFile(backup);
     if (!backupFile.copy(file)) {

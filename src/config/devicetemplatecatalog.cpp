@@ -130,7 +130,7 @@ bool DeviceTemplateCatalog::saveAsTemplate(Device *device, DeviceTemplateInfo &i
     if (!device)
         return false;
     const QString path = AppSettings::templates_dir() + QDir::separator() + info.name
-                         + QLatin1Char('.') + AppSettings::template_ext();
+        + QLatin1Char('.') + AppSettings::template_ext();
     QSettings::Status status;
     {
         QJsonSettings settings(path);

@@ -46,8 +46,8 @@ private:
     static DeviceTemplateCatalog *s_instance;
 
     QMap<QString, QVariantMap> m_templates; // by "name"
-    QMap<QString, QString> m_files;         // "name" -> path
-    QMap<QString, QString> m_names;         // file name -> "name"
+    QMap<QString, QString> m_files; // "name" -> path
+    QMap<QString, QString> m_names; // file name -> "name"
 };
 
 #endif // DEVICETEMPLATECATALOG_H

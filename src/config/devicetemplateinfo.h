@@ -10,7 +10,7 @@ struct DeviceTemplateInfo
     QString producer;
     QString comment;
     QString path; // the directory
-    QString ext;  // the extension
+    QString ext; // the extension
     bool custom = false;
 };
 

@@ -14,9 +14,8 @@ QJsonSettings::QJsonSettings(const QString &fileName, QObject *parent)
 
 QSettings::Format QJsonSettings::format()
 {
-    static const QSettings::Format jsonFormat
-        = QSettings::registerFormat(QStringLiteral("json"), readJsonFile, writeJsonFile,
-                                    Qt::CaseSensitive);
+    static const QSettings::Format jsonFormat = QSettings::registerFormat(
+        QStringLiteral("json"), readJsonFile, writeJsonFile, Qt::CaseSensitive);
     return jsonFormat;
 }
 

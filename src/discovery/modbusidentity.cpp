@@ -13,7 +13,8 @@ ModbusIdentity ModbusIdentity::parse(const QString &modbusId)
     if (upper.startsWith(QLatin1String("#F3#"))) {
         identity.method = ReadRegisters;
         const QStringList parts = modbusId.mid(4).split(QLatin1Char('#'));
-        static const QRegularExpression digits(QRegularExpression::anchoredPattern(QStringLiteral("([0-9]+)")));
+        static const QRegularExpression digits(
+            QRegularExpression::anchoredPattern(QStringLiteral("([0-9]+)")));
         if (parts.size() >= 2) {
             identity.address = int(Tag::addressFromText(parts.at(0)));
             identity.count = digits.match(parts.at(1)).hasMatch() ? parts.at(1).toInt() : 1;

@@ -14,6 +14,6 @@ bool SerialPortSettings::operator<(const SerialPortSettings &other) const
 bool SerialPortSettings::equalsTo(const Port *port) const
 {
     return port && name == port->serialName() && baudRate == port->baudrate()
-           && protocol.parity == port->parity() && protocol.dataBits == port->dataBits()
-           && protocol.stopBits == port->stopBits();
+        && protocol.parity == port->parity() && protocol.dataBits == port->dataBits()
+        && protocol.stopBits == port->stopBits();
 }

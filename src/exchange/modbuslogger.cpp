@@ -8,7 +8,7 @@
 
 #include <atomic>
 
-static std::atomic<ModbusLogger *> s_logger{nullptr};
+static std::atomic<ModbusLogger *> s_logger {nullptr};
 static QMutex s_loggerMutex;
 
 static QString now()
@@ -55,8 +55,8 @@ void ModbusLogger::logMessage(const QString &text)
 
 void ModbusLogger::rxString(modbus_t *ctx, const uint8_t *bytes, uint8_t length)
 {
-    timeval t1{};
-    timeval t2{};
+    timeval t1 {};
+    timeval t2 {};
     modbus_get_response_time1(ctx, &t1);
     modbus_get_response_time2(ctx, &t2);
     // Only the microsecond part is shown here, unlike the per-device lines.

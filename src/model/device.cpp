@@ -1,11 +1,11 @@
 #include "model/device.h"
 
 #include "app/debugqt.h"
-#include "exchange/channel.h"
-#include "model/port.h"
 #include "config/utils.h"
 #include "discovery/modbusidentity.h"
 #include "exchange/byteswapper.h"
+#include "exchange/channel.h"
+#include "model/port.h"
 #include "model/tag.h"
 
 #include <QDate>
@@ -23,9 +23,9 @@ struct ArchiveTypeName
 };
 
 const ArchiveTypeName archiveTypeNames[] = {
-    {"_1s", "1 сек"},  {"_5s", "5 сек"},     {"10s", "10 сек"},      {"30s", "30 сек"},
-    {"_1m", "1 мин"},  {"_5m", "5 мин"},     {"10m", "10 мин"},      {"30m", "30 мин"},
-    {"_1h", "1 час"},  {"_3h", "3 часа"},    {"_6h", "6 часов"},     {"12h", "12 часов"},
+    {"_1s", "1 сек"},  {"_5s", "5 сек"},  {"10s", "10 сек"},  {"30s", "30 сек"},
+    {"_1m", "1 мин"},  {"_5m", "5 мин"},  {"10m", "10 мин"},  {"30m", "30 мин"},
+    {"_1h", "1 час"},  {"_3h", "3 часа"}, {"_6h", "6 часов"}, {"12h", "12 часов"},
     {"1d", "1 сутки"},
 };
 
@@ -150,7 +150,11 @@ QString Device::portSettingsToString(bool withName) const
             .arg(p.parity)
             .arg(p.stopBits);
     }
-    return QStringLiteral(";%1; %2%3%4").arg(m_portSettings.baudRate).arg(p.dataBits).arg(p.parity).arg(p.stopBits);
+    return QStringLiteral(";%1; %2%3%4")
+        .arg(m_portSettings.baudRate)
+        .arg(p.dataBits)
+        .arg(p.parity)
+        .arg(p.stopBits);
 }
 
 void Device::setPortSettingsInTags()
@@ -519,15 +523,31 @@ int Device::getDelayByBaudrate() const
     const Port *p = port();
     int delay = 0;
     switch (p ? p->baudrate() : 0) {
-    case 1200: delay = 29; break;
-    case 2400: delay = 15; break;
-    case 4800: delay = 8; break;
-    case 9600: delay = 4; break;
-    case 19200: delay = 3; break;
-    case 38400: delay = 2; break;
+    case 1200:
+        delay = 29;
+        break;
+    case 2400:
+        delay = 15;
+        break;
+    case 4800:
+        delay = 8;
+        break;
+    case 9600:
+        delay = 4;
+        break;
+    case 19200:
+        delay = 3;
+        break;
+    case 38400:
+        delay = 2;
+        break;
     case 57600:
-    case 115200: delay = 1; break;
-    default: delay = 0; break;
+    case 115200:
+        delay = 1;
+        break;
+    default:
+        delay = 0;
+        break;
     }
     return protocolType() == 1 ? delay * 5 : delay;
 }
@@ -662,17 +682,18 @@ void Device::copyLineSettingsFrom(const Port *p)
 {
     setProtocolType(p->protocolType());
     setAsciiDelimiter(p->asciiDelimiter());
-    m_portSettings = SerialPortSettings(p->serialName(), p->baudrate(),
-                                        SerialPortProtocol(p->dataBits(), p->parity(), p->stopBits()));
+    m_portSettings
+        = SerialPortSettings(p->serialName(), p->baudrate(),
+                             SerialPortProtocol(p->dataBits(), p->parity(), p->stopBits()));
 }
 
 bool Device::openPortForCheck(Port *p, int baudIndex, int parityIndex, int protocol, int delimiter)
 {
     if (p->isOpened()) {
         const bool differs = (baudIndex != -1 && baudIndex != p->baudrateIndex())
-                             || (parityIndex != -1 && parityIndex != p->parityIndex())
-                             || (protocol != -1 && protocol != p->protocolType())
-                             || (delimiter != -1 && delimiter != p->asciiDelimiter());
+            || (parityIndex != -1 && parityIndex != p->parityIndex())
+            || (protocol != -1 && protocol != p->protocolType())
+            || (delimiter != -1 && delimiter != p->asciiDelimiter());
         if (differs)
             p->close();
     }
@@ -701,7 +722,7 @@ bool Device::openPortForExchange(Port *p)
         copyLineSettingsFrom(p);
     if (p->isOpened()) {
         const bool differs = !m_portSettings.equalsTo(p) || protocolType() != p->protocolType()
-                             || asciiDelimiter() != p->asciiDelimiter();
+            || asciiDelimiter() != p->asciiDelimiter();
         if (differs)
             p->close();
     }
@@ -726,8 +747,8 @@ bool Device::openPort(int baudIndex, int parityIndex, int protocol, int delimite
         return false;
     const bool anyGiven = baudIndex != -1 || parityIndex != -1 || protocol != -1 || delimiter != -1;
     const bool ok = (m_deviceId == 0 && anyGiven)
-                        ? openPortForCheck(p, baudIndex, parityIndex, protocol, delimiter)
-                        : openPortForExchange(p);
+        ? openPortForCheck(p, baudIndex, parityIndex, protocol, delimiter)
+        : openPortForExchange(p);
     if (ok)
         return true;
     setErrorString(p->errorString());
@@ -810,17 +831,19 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
         timer.start();
         sendModbusMessage(QStringLiteral("reading %1 (0x%2h)...").arg(name, hexAddress(addr)));
         const bool cached = isUseCash() && !m_readCache.isEmpty()
-                            && m_readCache.value(QStringLiteral("time")).toTime().msecsTo(QTime::currentTime())
-                                   < m_cashTimeout
-                            && m_readCache.value(QStringLiteral("read_func")).toInt() == func
-                            && m_readCache.value(QStringLiteral("reg_addr")).toInt() == addr
-                            && m_readCache.value(QStringLiteral("length")).toInt() == lengthInBytes;
+            && m_readCache.value(QStringLiteral("time")).toTime().msecsTo(QTime::currentTime())
+                < m_cashTimeout
+            && m_readCache.value(QStringLiteral("read_func")).toInt() == func
+            && m_readCache.value(QStringLiteral("reg_addr")).toInt() == addr
+            && m_readCache.value(QStringLiteral("length")).toInt() == lengthInBytes;
         if (cached) {
             out = m_readCache.value(QStringLiteral("buffer")).toByteArray();
-            sendModbusMessage(QStringLiteral("%1 (*CASH*): %2")
-                                  .arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz")),
-                                       byteBufferToString(out)));
-            sendModbusMessage(QStringLiteral("Success (processing time: %1ms)").arg(timer.elapsed()));
+            sendModbusMessage(
+                QStringLiteral("%1 (*CASH*): %2")
+                    .arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz")),
+                         byteBufferToString(out)));
+            sendModbusMessage(
+                QStringLiteral("Success (processing time: %1ms)").arg(timer.elapsed()));
             setErrorString(QString());
             updateState(ResultGood);
             p->portLock()->release();
@@ -832,7 +855,8 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
         if (lengthInBytes == 1)
             p->read_bits(label, address(), addr, func, out, rx, tx);
         else
-            p->read_registers(label, address(), addr, func, lengthInBytes, out, rx, tx, byteSwappingEnabled());
+            p->read_registers(label, address(), addr, func, lengthInBytes, out, rx, tx,
+                              byteSwappingEnabled());
         m_processingTime = int(timer.elapsed());
         if (p->lastResult() == ResultGood && isUseCash()) {
             m_readCache = {{QStringLiteral("time"), QTime::currentTime()},
@@ -846,7 +870,8 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
     return finishExchange(p, state, QStringLiteral("reading"), name);
 }
 
-int Device::write(const QString &name, int addr, int func, int lengthInBytes, const QByteArray &data)
+int Device::write(const QString &name, int addr, int func, int lengthInBytes,
+                  const QByteArray &data)
 {
     Port *p = port();
     if (!p)
@@ -874,38 +899,43 @@ int Device::write(const QString &name, int addr, int func, int lengthInBytes, co
 }
 
 // Runs the probe that the modbus_id names; on success fills the device id and reply text.
-static bool probeIdentity(Device *device, Port *p, const ModbusIdentity &identity, QString &rx, QString &tx,
-                          int &deviceId, QString &reply)
+static bool probeIdentity(Device *device, Port *p, const ModbusIdentity &identity, QString &rx,
+                          QString &tx, int &deviceId, QString &reply)
 {
     const int slave = device->address();
     QByteArray out;
     switch (identity.method) {
     case ModbusIdentity::ReadRegisters:
-        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false,
+                                rx, tx))
             return false;
         deviceId = 127;
         reply = QStringLiteral("custom");
         return true;
     case ModbusIdentity::Hamilton:
-        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, true, rx, tx))
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, true, rx,
+                                tx))
             return false;
         deviceId = 31;
         reply = QString::fromLatin1(out).trimmed();
         return true;
     case ModbusIdentity::Nengshi: {
         SLOG_INFO << "### try china sensor ###";
-        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false,
+                                rx, tx))
             return false;
         const int unit = out.size() > 2 ? quint8(out.at(2)) : 0;
         SLOG_INFO << "unit code:" << unit;
         deviceId = 175;
-        reply = unit == 10 ? QStringLiteral("Nengshi-pH")
-                           : (unit >= 7 && unit <= 9 ? QStringLiteral("Nengshi-CON") : QStringLiteral("Nengshi"));
+        reply = unit == 10
+            ? QStringLiteral("Nengshi-pH")
+            : (unit >= 7 && unit <= 9 ? QStringLiteral("Nengshi-CON") : QStringLiteral("Nengshi"));
         mySleep(70);
         return true;
     }
     case ModbusIdentity::Y510B:
-        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx))
+        if (!p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false,
+                                rx, tx))
             return false;
         deviceId = 127;
         reply = QString::fromLatin1(ByteSwapper::swap_byteorder(out, 2)).remove(QChar(0)).trimmed();
@@ -913,7 +943,8 @@ static bool probeIdentity(Device *device, Port *p, const ModbusIdentity &identit
     case ModbusIdentity::Y610B:
         // This sensor often misses the first requests after a pause.
         for (int attempt = 0; attempt < 10; ++attempt) {
-            if (p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false, rx, tx)) {
+            if (p->checkDeviceByF3(identity.id, slave, identity.address, identity.count, out, false,
+                                   rx, tx)) {
                 mySleep(500);
                 deviceId = 127;
                 reply = QStringLiteral("Y610-B");
@@ -941,7 +972,10 @@ bool Device::checkDevice(int baudIndex, int parityIndex, int protocol, int delim
     timer.start();
     m_processingTime = 0;
     if (openPort(baudIndex, parityIndex, protocol, delimiter)) {
-        sendModbusMessage(QStringLiteral("Try to check %1 at address %2 via %3 ...").arg(name()).arg(address()).arg(p->configName()));
+        sendModbusMessage(QStringLiteral("Try to check %1 at address %2 via %3 ...")
+                              .arg(name())
+                              .arg(address())
+                              .arg(p->configName()));
         QString rx;
         QString tx;
         int deviceId = 0;
@@ -993,11 +1027,11 @@ bool Device::checkFirmwareDate()
     QString text;
     if (!deviceDate.isValid()) {
         text = tr("Template version does not match device version!") + QLatin1Char(' ')
-               + tr("Invalid device firmware date ('%1')").arg(deviceFirmwareDate());
+            + tr("Invalid device firmware date ('%1')").arg(deviceFirmwareDate());
     } else if (templateDate.isValid() && templateDate > deviceDate) {
         text = tr("Template version does not match device version!") + QLatin1Char(' ')
-               + tr("Device firmware date (%1) is less than template date (%2).")
-                     .arg(deviceFirmwareDate(), m_firmwareDate);
+            + tr("Device firmware date (%1) is less than template date (%2).")
+                  .arg(deviceFirmwareDate(), m_firmwareDate);
     } else {
         return true;
     }
@@ -1008,26 +1042,36 @@ bool Device::checkFirmwareDate()
 
 void Device::initFirmwareNumber()
 {
-    static const QRegularExpression firmwareForm(QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d\\d-\\d\\d")));
-    static const QRegularExpression serialForm(QRegularExpression::anchoredPattern(QStringLiteral("N\\d\\d\\d")));
-    static const QRegularExpression fourDigits(QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d")));
+    static const QRegularExpression firmwareForm(
+        QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d\\d-\\d\\d")));
+    static const QRegularExpression serialForm(
+        QRegularExpression::anchoredPattern(QStringLiteral("N\\d\\d\\d")));
+    static const QRegularExpression fourDigits(
+        QRegularExpression::anchoredPattern(QStringLiteral("\\d\\d\\d\\d")));
     const QString reply = m_identification[ReplyText];
     const QStringList tokens = reply.split(QLatin1Char(' '));
     m_identification[ShortIdentification] = reply;
     if (tokens.size() > 2) {
         if (firmwareForm.match(tokens.at(2)).hasMatch()) {
             m_identification[FirmwareNumber] = tokens.at(2);
-            m_identification[DeviceFirmwareDate] = tokens.value(3).replace(QLatin1Char(':'), QLatin1Char('.'));
-            m_identification[ShortIdentification] = QString(reply).remove(tokens.at(2) + QLatin1Char(' '));
+            m_identification[DeviceFirmwareDate]
+                = tokens.value(3).replace(QLatin1Char(':'), QLatin1Char('.'));
+            m_identification[ShortIdentification]
+                = QString(reply).remove(tokens.at(2) + QLatin1Char(' '));
         } else {
-            m_identification[DeviceFirmwareDate] = QString(tokens.at(2)).replace(QLatin1Char(':'), QLatin1Char('.'));
+            m_identification[DeviceFirmwareDate]
+                = QString(tokens.at(2)).replace(QLatin1Char(':'), QLatin1Char('.'));
         }
     }
-    if (tokens.size() > 6 && serialForm.match(tokens.at(1)).hasMatch() && fourDigits.match(tokens.at(2)).hasMatch()
+    if (tokens.size() > 6 && serialForm.match(tokens.at(1)).hasMatch()
+        && fourDigits.match(tokens.at(2)).hasMatch()
         && firmwareForm.match(tokens.at(4)).hasMatch()) {
         m_identification[SerialText] = tokens.at(1);
         m_identification[FirmwareNumber] = tokens.at(4);
-        m_identification[DeviceFirmwareDate] = QString(tokens.at(5)).replace(QLatin1Char(':'), QLatin1Char('.'));
-        m_identification[ShortIdentification] = QStringList{tokens.at(0), tokens.at(3), tokens.at(5), tokens.at(6)}.join(QLatin1Char(' '));
+        m_identification[DeviceFirmwareDate]
+            = QString(tokens.at(5)).replace(QLatin1Char(':'), QLatin1Char('.'));
+        m_identification[ShortIdentification]
+            = QStringList {tokens.at(0), tokens.at(3), tokens.at(5), tokens.at(6)}.join(
+                QLatin1Char(' '));
     }
 }

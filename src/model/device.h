@@ -119,7 +119,8 @@ public:
     QString deviceFirmwareDate() const { return m_identification[DeviceFirmwareDate]; }
 
     // Asks the instrument for proof that it is what modbus_id says; arguments as in openPort.
-    bool checkDevice(int baudIndex = -1, int parityIndex = -1, int protocol = -1, int delimiter = -1);
+    bool checkDevice(int baudIndex = -1, int parityIndex = -1, int protocol = -1,
+                     int delimiter = -1);
     void initFirmwareNumber();
 
     SerialPortSettings portSettings() const { return m_portSettings; }
@@ -133,7 +134,10 @@ public:
     QVariantMap measureInfo() const { return m_measureInfo; }
     void setMeasureInfo(const QVariantMap &info) { m_measureInfo = info; }
     QVariantMap defaultWidgetConfiguration() const { return m_defaultWidgetConfiguration; }
-    void setDefaultWidgetConfiguration(const QVariantMap &cfg) { m_defaultWidgetConfiguration = cfg; }
+    void setDefaultWidgetConfiguration(const QVariantMap &cfg)
+    {
+        m_defaultWidgetConfiguration = cfg;
+    }
 
     // Tags.
     Tag *tag(const QString &name) const;

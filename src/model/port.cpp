@@ -7,10 +7,10 @@
 #include "exchange/portthread.h"
 #include "exchange/request.h"
 #include "exchange/worker.h"
+#include "modbus/modbus.h"
 #include "model/device.h"
 #include "model/server.h"
 #include "model/tag.h"
-#include "modbus/modbus.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -353,7 +353,8 @@ bool Port::open()
         m_ctx = modbus_new_rtu(device.constData(), baudrate(), parityChar, dataBits(), stopBits());
     } else {
         modbus_ascii_set_delimiter(asciiDelimiter() & 0xFF);
-        m_ctx = modbus_new_ascii(device.constData(), baudrate(), parityChar, dataBits(), stopBits());
+        m_ctx
+            = modbus_new_ascii(device.constData(), baudrate(), parityChar, dataBits(), stopBits());
     }
     if (!m_ctx) {
         setErrorString(QStringLiteral("fail create port for '%1'").arg(serialName()));
@@ -410,7 +411,7 @@ void Port::flush()
 
 static timeval toTimeval(int ms)
 {
-    timeval tv{};
+    timeval tv {};
     tv.tv_sec = ms / 1000;
     tv.tv_usec = (ms % 1000) * 1000;
     return tv;
@@ -440,7 +441,7 @@ void Port::setByteTimeout(int ms)
 
 int Port::responseTimeout() const
 {
-    timeval tv{};
+    timeval tv {};
     if (!m_ctx || modbus_get_response_timeout(m_ctx, &tv) != 0)
         return 0;
     return fromTimeval(tv);
@@ -448,7 +449,7 @@ int Port::responseTimeout() const
 
 int Port::byteTimeout() const
 {
-    timeval tv{};
+    timeval tv {};
     if (!m_ctx || modbus_get_byte_timeout(m_ctx, &tv) != 0)
         return 0;
     return fromTimeval(tv);
@@ -510,8 +511,8 @@ bool Port::read_registers(const QString &name, int slave, int addr, int func, in
     return code == 0;
 }
 
-bool Port::write_registers(const QString &name, int slave, int addr, int func, const QByteArray &data,
-                           QString &rx, QString &tx, bool swap)
+bool Port::write_registers(const QString &name, int slave, int addr, int func,
+                           const QByteArray &data, QString &rx, QString &tx, bool swap)
 {
     if (!m_ctx) {
         setNotOpenedError();
@@ -521,7 +522,8 @@ bool Port::write_registers(const QString &name, int slave, int addr, int func, c
         return false;
     QByteArray buffer = data;
     if (swap)
-        buffer = ByteSwapper::swap_byteorder(ByteSwapper::swap_byteorder(buffer, int(buffer.size())), 2);
+        buffer = ByteSwapper::swap_byteorder(
+            ByteSwapper::swap_byteorder(buffer, int(buffer.size())), 2);
     const int count = int(buffer.size() / 2);
     std::vector<uint16_t> words(size_t(qMax(count, 1)), 0);
     std::memcpy(words.data(), buffer.constData(), size_t(count) * 2);
@@ -545,8 +547,8 @@ bool Port::write_registers(const QString &name, int slave, int addr, int func, c
     return code == 0;
 }
 
-bool Port::read_bits(const QString &name, int slave, int addr, int func, QByteArray &out, QString &rx,
-                     QString &tx)
+bool Port::read_bits(const QString &name, int slave, int addr, int func, QByteArray &out,
+                     QString &rx, QString &tx)
 {
     if (!m_ctx) {
         setNotOpenedError();
@@ -583,7 +585,8 @@ bool Port::write_bits(const QString &name, int slave, int addr, int func, const 
     if (!prepareExchange(name, slave, false, rx, tx))
         return false;
     const uint8_t bit = !data.isEmpty() && data.at(0) != 0 ? 1 : 0;
-    const int rc = func == 5 ? modbus_write_bit(m_ctx, addr, bit) : modbus_write_bits(m_ctx, addr, 1, &bit);
+    const int rc
+        = func == 5 ? modbus_write_bit(m_ctx, addr, bit) : modbus_write_bits(m_ctx, addr, 1, &bit);
     int code = 0;
     if (rc != 1) {
         code = errno;
@@ -635,7 +638,8 @@ QByteArray Port::sendRawRequest(const QByteArray &request, QString &rx, QString 
     setErrorString(getErrorString(state, errno));
     updateState(state);
     if (state != ResultGood) {
-        LOG_INFO << QStringLiteral("error processing raw request '%1' - %2").arg(fullName(), errorString());
+        LOG_INFO << QStringLiteral("error processing raw request '%1' - %2")
+                        .arg(fullName(), errorString());
         if (ServerItem *parent = parentItem())
             parent->increaseErrorCount();
         if (code == EIO)
@@ -646,7 +650,8 @@ QByteArray Port::sendRawRequest(const QByteArray &request, QString &rx, QString 
 
 void Port::errorProcessing(int code, QString &rx, QString &tx)
 {
-    const int state = code == 0 ? ResultGood : (code == ETIMEDOUT ? ResultTimeout : ResultModbusError);
+    const int state
+        = code == 0 ? ResultGood : (code == ETIMEDOUT ? ResultTimeout : ResultModbusError);
     setErrorString(getErrorString(state, code));
     updateState(state);
     tx = buildModbusString(QStringLiteral("TX"), m_ctx, modbus_get_tx_msg(m_ctx));
@@ -662,12 +667,13 @@ static int milliseconds(const timeval &tv)
     return int(tv.tv_usec / 1000) + (tv.tv_sec > 0 ? int(tv.tv_sec * 1000) : 0);
 }
 
-QString Port::buildModbusString(const QString &direction, const modbus_t *ctx, const modbus_msg_t *msg)
+QString Port::buildModbusString(const QString &direction, const modbus_t *ctx,
+                                const modbus_msg_t *msg)
 {
     if (!msg || msg->length <= 0)
         return QString();
-    timeval tv1{};
-    timeval tv2{};
+    timeval tv1 {};
+    timeval tv2 {};
     modbus_get_response_time1(ctx, &tv1);
     modbus_get_response_time2(ctx, &tv2);
     const int t1 = milliseconds(tv1);
@@ -683,7 +689,7 @@ QString Port::buildModbusString(const QString &direction, const modbus_t *ctx, c
                .arg(shown.toString(QStringLiteral("hh:mm:ss.zzz")), direction)
                .arg(first)
                .arg(t2)
-           + byteBufferToString(reinterpret_cast<const char *>(msg->buf), length);
+        + byteBufferToString(reinterpret_cast<const char *>(msg->buf), length);
 }
 
 bool Port::prepareCheck(const QString &label, int slave)
@@ -709,7 +715,10 @@ bool Port::checkFailed(int rc, const QString &expected, int slave)
     int code = errno;
     if (code == ETIMEDOUT) {
         LOG_INFO << "* ETIMEDOUT *";
-        setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3").arg(expected).arg(slave).arg(configName()));
+        setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3")
+                           .arg(expected)
+                           .arg(slave)
+                           .arg(configName()));
         updateState(ResultTimeout);
         return true;
     }
@@ -738,8 +747,8 @@ bool Port::checkDeviceByF3(const QString &expected, int slave, int addr, int cou
     out = QByteArray(count * 2, '\0');
     std::vector<uint16_t> words(size_t(count), 0);
     const int rc = expected.contains(QLatin1String("Nengshi"))
-                       ? modbus_read_input_registers(m_ctx, addr, count, words.data())
-                       : modbus_read_registers(m_ctx, addr, count, words.data());
+        ? modbus_read_input_registers(m_ctx, addr, count, words.data())
+        : modbus_read_registers(m_ctx, addr, count, words.data());
     const bool failed = checkFailed(rc, expected, slave);
     if (failed) {
         buildTrafficLines(rx, tx);
@@ -750,10 +759,11 @@ bool Port::checkDeviceByF3(const QString &expected, int slave, int addr, int cou
     if (compare && !expected.isEmpty()) {
         ok = out.size() > 2 && out.contains(expected.toLatin1());
         if (!ok) {
-            setErrorString(QStringLiteral("*** Not found %1 at address %2 via %3. It's was found %4")
-                               .arg(expected)
-                               .arg(slave)
-                               .arg(configName(), QString::fromLatin1(out)));
+            setErrorString(
+                QStringLiteral("*** Not found %1 at address %2 via %3. It's was found %4")
+                    .arg(expected)
+                    .arg(slave)
+                    .arg(configName(), QString::fromLatin1(out)));
         }
     }
     if (ok) {
@@ -785,7 +795,8 @@ bool Port::checkDeviceByF17(const QString &expected, int slave, int *deviceId, Q
         buildTrafficLines(rx, tx);
         return false;
     }
-    const QByteArray reply(reinterpret_cast<const char *>(buffer), qBound(0, rc, int(sizeof buffer)));
+    const QByteArray reply(reinterpret_cast<const char *>(buffer),
+                           qBound(0, rc, int(sizeof buffer)));
     // A reply without a blank is accepted only from the models that send their name compact.
     if (reply.size() < 3 || (!reply.contains(' ') && !hasCompactName(reply))) {
         setErrorString(QStringLiteral("*** Uncorrect reply17: %1 from address %2 via %3")
@@ -986,12 +997,13 @@ bool Port::waitOneShot(Tag *tag, PortThread *thread)
             // Never exchanged: the tag is ours alone again.
             if (tag->waitTagRequested(0))
                 return true;
-            const QString text = gone ? tr("Polling of port '%1' stopped before the request of '%2'")
-                                            .arg(name(), tag->name())
-                                      : tr("The request of '%1' waited in the polling queue of port "
-                                           "'%2' for more than %3 ms")
-                                            .arg(tag->name(), name())
-                                            .arg(m_oneShotTimeout);
+            const QString text = gone
+                ? tr("Polling of port '%1' stopped before the request of '%2'")
+                      .arg(name(), tag->name())
+                : tr("The request of '%1' waited in the polling queue of port "
+                     "'%2' for more than %3 ms")
+                      .arg(tag->name(), name())
+                      .arg(m_oneShotTimeout);
             LOG_WARN << text;
             tag->setErrorString(text);
             tag->updateState(ResultTimeout);

@@ -38,7 +38,7 @@ public:
     bool hasPortWithArchivatedDevices() const;
     bool isPortsThreadWorked() const;
     void printContents() const;
-    void fillServer() {}
+    void fillServer() { }
 
 signals:
     void loaded();

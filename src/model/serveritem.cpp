@@ -25,9 +25,11 @@ QString ServerItem::getErrorString(int code, int detail) const
     switch (code) {
     case ResultModbusError: {
         const int shown = (detail < -(LibraryErrorBase - 1) || detail > LibraryErrorBase - 1)
-                              ? detail - LibraryErrorBase
-                              : detail;
-        return QStringLiteral("%1 (%2)").arg(QString::fromLocal8Bit(modbus_strerror(detail))).arg(shown);
+            ? detail - LibraryErrorBase
+            : detail;
+        return QStringLiteral("%1 (%2)")
+            .arg(QString::fromLocal8Bit(modbus_strerror(detail)))
+            .arg(shown);
     }
     case ResultConfigError:
         return QStringLiteral("Config error(invalid access type)");

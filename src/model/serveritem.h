@@ -105,12 +105,12 @@ private:
     QList<ServerItem *> m_children;
     QMap<QString, ServerItem *> m_childrenByName;
     mutable QMap<QString, int> m_nameCounters;
-    std::atomic<int> m_lastResult{ResultGood};
-    std::atomic<int> m_state{StateNone};
+    std::atomic<int> m_lastResult {ResultGood};
+    std::atomic<int> m_state {StateNone};
     mutable std::mutex m_errorStringLock;
     QString m_errorString;
     QString m_name;
-    std::atomic<int> m_errorCount{0};
+    std::atomic<int> m_errorCount {0};
 };
 
 #endif // SERVERITEM_H

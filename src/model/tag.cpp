@@ -14,14 +14,13 @@
 
 namespace {
 
-const char *const deviceTypeNames[] = {"bit",    "int16",   "uint16",  "int32",
-                                       "uint32", "float32", "float64", "bytearray"};
-const char *const serverTypeNames[] = {"bool",   "int16",   "uint16", "int32",
-                                       "uint32", "float32", "float64"};
+const char *const deviceTypeNames[]
+    = {"bit", "int16", "uint16", "int32", "uint32", "float32", "float64", "bytearray"};
+const char *const serverTypeNames[]
+    = {"bool", "int16", "uint16", "int32", "uint32", "float32", "float64"};
 const int deviceTypeLengths[] = {1, 2, 2, 4, 4, 4, 8};
 
-template<size_t N>
-int indexOfName(const char *const (&names)[N], const QString &text, int fallback)
+template<size_t N> int indexOfName(const char *const (&names)[N], const QString &text, int fallback)
 {
     for (size_t i = 0; i < N; ++i) {
         if (text.compare(QLatin1String(names[i]), Qt::CaseInsensitive) == 0)
@@ -154,8 +153,8 @@ uint Tag::address() const
 
 uint Tag::addressFromText(const QString &text)
 {
-    static const QRegularExpression hexForm(
-        QRegularExpression::anchoredPattern(QStringLiteral("(0[xX][0-9a-fA-F]+)|([0-9a-fA-F]+[hH])")));
+    static const QRegularExpression hexForm(QRegularExpression::anchoredPattern(
+        QStringLiteral("(0[xX][0-9a-fA-F]+)|([0-9a-fA-F]+[hH])")));
     bool ok = false;
     uint result;
     if (hexForm.match(text).hasMatch()) {
@@ -230,7 +229,8 @@ bool Tag::isValueLimitsOut() const
 
 bool Tag::isTimeStampTimeout() const
 {
-    const qint64 age = QDateTime::currentDateTime().toSecsSinceEpoch() - timestamp().toSecsSinceEpoch();
+    const qint64 age
+        = QDateTime::currentDateTime().toSecsSinceEpoch() - timestamp().toSecsSinceEpoch();
     const int periodMs = period();
     if (age <= 0 || periodMs <= 0)
         return false;
@@ -279,7 +279,8 @@ void Tag::setLimits(const QVariant &low, const QVariant &high)
 
 static bool isDigitsOnly(const QString &text)
 {
-    static const QRegularExpression digits(QRegularExpression::anchoredPattern(QStringLiteral("[0-9]*")));
+    static const QRegularExpression digits(
+        QRegularExpression::anchoredPattern(QStringLiteral("[0-9]*")));
     return digits.match(text).hasMatch();
 }
 
@@ -418,14 +419,17 @@ bool Tag::load(const QVariantMap &map)
     if (map.contains(QLatin1String("priority")))
         setPriority(map.value(QLatin1String("priority")).toInt());
     if (map.contains(QLatin1String("device_type")))
-        m_deviceType = DeviceType(deviceTypeFromString(map.value(QLatin1String("device_type")).toString()));
+        m_deviceType
+            = DeviceType(deviceTypeFromString(map.value(QLatin1String("device_type")).toString()));
     if (m_deviceType == dtByteArray) {
         if (map.contains(QLatin1String("array_size")))
             m_arraySize = map.value(QLatin1String("array_size")).toInt();
     } else if (map.contains(QLatin1String("server_type"))) {
-        m_serverType = ServerType(serverTypeFromString(map.value(QLatin1String("server_type")).toString()));
+        m_serverType
+            = ServerType(serverTypeFromString(map.value(QLatin1String("server_type")).toString()));
     } else if (map.contains(QLatin1String("device_type"))) {
-        m_serverType = ServerType(serverTypeFromString(map.value(QLatin1String("device_type")).toString()));
+        m_serverType
+            = ServerType(serverTypeFromString(map.value(QLatin1String("device_type")).toString()));
     }
     for (const char *key : {"read_func", "write_func", "decimal_point"}) {
         if (map.contains(QLatin1String(key)))
@@ -440,13 +444,15 @@ bool Tag::load(const QVariantMap &map)
     else if (const Device *dev = device())
         setByteSwappingEnabled(dev->byteSwappingEnabled());
     if (map.contains(QLatin1String("access")))
-        m_access = OpcAccessType(accessTypeFromString(map.value(QLatin1String("access")).toString()));
+        m_access
+            = OpcAccessType(accessTypeFromString(map.value(QLatin1String("access")).toString()));
     if (map.contains(QLatin1String("comment")))
         setProperty("comment", map.value(QLatin1String("comment")).toString());
     if (map.contains(QLatin1String("request_delay")))
         m_requestDelay = map.value(QLatin1String("request_delay")).toInt();
     if (map.contains(QLatin1String("use_bit_extraction_read_only")))
-        m_useBitExtractionReadOnly = map.value(QLatin1String("use_bit_extraction_read_only")).toBool();
+        m_useBitExtractionReadOnly
+            = map.value(QLatin1String("use_bit_extraction_read_only")).toBool();
     if (map.contains(QLatin1String("use_bit_extraction")))
         m_useBitExtraction = map.value(QLatin1String("use_bit_extraction")).toBool();
     if (map.contains(QLatin1String("extract_bit_from")))
@@ -577,7 +583,8 @@ static QByteArray swappedSlice(const QByteArray &slice, int width)
 
 static void copyInto(ModbusValue &value, const QByteArray &bytes, int width)
 {
-    std::memcpy(value.bytes, bytes.constData(), size_t(qBound(0, qMin(int(bytes.size()), width), 8)));
+    std::memcpy(value.bytes, bytes.constData(),
+                size_t(qBound(0, qMin(int(bytes.size()), width), 8)));
 }
 
 void Tag::tagRequesting()
@@ -589,7 +596,8 @@ void Tag::tagRequesting()
 bool Tag::waitTagRequested(int timeoutMs)
 {
     std::unique_lock locker(m_requestMutex);
-    return m_requested.wait_for(locker, std::chrono::milliseconds(timeoutMs), [this] { return m_requestDone; });
+    return m_requested.wait_for(locker, std::chrono::milliseconds(timeoutMs),
+                                [this] { return m_requestDone; });
 }
 
 void Tag::finishRequest(int state, const char *verb)
@@ -598,7 +606,8 @@ void Tag::finishRequest(int state, const char *verb)
         setErrorString(dev->errorString());
     updateState(state);
     if (state != ResultGood)
-        LOG_INFO << QStringLiteral("error %1 tag '%2' - %3").arg(QLatin1String(verb), fullName(), errorString());
+        LOG_INFO << QStringLiteral("error %1 tag '%2' - %3")
+                        .arg(QLatin1String(verb), fullName(), errorString());
     std::lock_guard locker(m_requestMutex);
     m_requestDone = true;
     m_requested.notify_all();
@@ -618,7 +627,8 @@ QVariant Tag::read()
     }
     mySleep(m_requestDelay);
     const bool deviceFlag = applySwapFlagRule();
-    const int state = dev->read(fullName(), int(address()), readFunc(), deviceTypeLengthToRead(), m_rawBuffer);
+    const int state
+        = dev->read(fullName(), int(address()), readFunc(), deviceTypeLengthToRead(), m_rawBuffer);
     restoreDeviceSwapFlag(deviceFlag);
 
     if (state != ResultGood) {
@@ -736,7 +746,8 @@ QByteArray Tag::prepareWriteBuffer(const QVariant &newValue, bool deviceFlag)
         if (byteOrderEnabled())
             bytes = ByteSwapper::convert(bytes, byteOrder());
         copyInto(word, bytes, width);
-        word.u32 = set_bits(word.u32, newValue.toUInt(), m_extractBitFrom, m_extractBitTo - m_extractBitFrom + 1);
+        word.u32 = set_bits(word.u32, newValue.toUInt(), m_extractBitFrom,
+                            m_extractBitTo - m_extractBitFrom + 1);
     } else {
         word = getModbusValue();
     }
@@ -802,7 +813,8 @@ bool Tag::write(const QVariant &newValue)
         const QByteArray group = groupWriteBuffer(buffer, deviceFlag);
         state = dev->write(fullName(), int(address()), writeFunc(), int(group.size()), group);
     } else {
-        state = dev->write(fullName(), int(address()), writeFunc(), deviceTypeLengthToWrite(), buffer);
+        state = dev->write(fullName(), int(address()), writeFunc(), deviceTypeLengthToWrite(),
+                           buffer);
     }
     restoreDeviceSwapFlag(deviceFlag);
     finishRequest(state, "writing");

@@ -7,7 +7,6 @@
 #include <QJsonObject>
 #include <QtTest>
 
-
 // Start-up and configuration files, first run, preferences and the .bak rules.
 class tst_AppSettings : public QObject
 {
@@ -61,7 +60,7 @@ void tst_AppSettings::startupNamesDeletedFile()
     QDir().mkpath(work.filePath(QStringLiteral("cfg")));
     const QString gone = work.filePath(QStringLiteral("elsewhere/mine.cfg"));
     QVERIFY(writeFile(AppSettings::startup_fn(),
-                      QJsonDocument(QJsonObject{{"cfg_filename", gone}}).toJson()));
+                      QJsonDocument(QJsonObject {{"cfg_filename", gone}}).toJson()));
     AppSettings *settings = AppSettings::instance();
     QVERIFY(settings->load());
     // The name stays in use although the file is gone...
@@ -101,13 +100,13 @@ void tst_AppSettings::preferencesRoundTrip()
     settings->setConfigComment(QStringLiteral("цех 2"));
     settings->setTagViewMode(AppSettings::COMPACT);
     settings->setLanguage(QStringLiteral("en_US"));
-    settings->setServerMap({{"ports", QVariantList{QVariantMap{{"name", "Port0"}}}}});
+    settings->setServerMap({{"ports", QVariantList {QVariantMap {{"name", "Port0"}}}}});
     settings->setScanSettings({{"baud", 9600}});
     settings->setLogViewLinesLimit(50);
     QVERIFY(settings->save());
 
     const QVariantMap file = jsonFile(AppSettings::cfg_fn());
-    QCOMPARE(file.keys(), (QStringList{"app", "scan_settings", "srv"}));
+    QCOMPARE(file.keys(), (QStringList {"app", "scan_settings", "srv"}));
     const QVariantMap app = file.value("app").toMap();
     QVERIFY(!app.contains("log_view_lines_limit"));
     QVERIFY(!app.contains("srv"));
@@ -187,7 +186,7 @@ void tst_AppSettings::saveOverCorruptFileReplacesIt()
     settings->load();
     const QString file = AppSettings::cfg_fn();
     QVERIFY(writeFile(file, "not json at all"));
-    settings->setServerMap({{"ports", QVariantList{QVariantMap{{"name", "P"}}}}});
+    settings->setServerMap({{"ports", QVariantList {QVariantMap {{"name", "P"}}}}});
     QVERIFY(settings->save());
     QCOMPARE(jsonFile(file).value("srv").toMap(), settings->serverMap());
 }
@@ -239,7 +238,8 @@ void tst_AppSettings::backupAndRollbackFailures()
 
 void tst_AppSettings::tagViewModes()
 {
-    QCOMPARE(AppSettings::tagViewModeFromString(QStringLiteral("compact")), int(AppSettings::COMPACT));
+    QCOMPARE(AppSettings::tagViewModeFromString(QStringLiteral("compact")),
+             int(AppSettings::COMPACT));
     QCOMPARE(AppSettings::tagViewModeFromString(QStringLiteral("other")), int(AppSettings::FULL));
     QCOMPARE(AppSettings::tagViewModeToString(5), QStringLiteral("UNKNOWN"));
 }

@@ -69,7 +69,7 @@ void tst_BadInput::configurations()
     loadConfiguration(m_badDir + QLatin1Char('/') + file, server);
     // A file that gives no ports leaves the tree as it stood.
     if (AppSettings::instance()->serverMap().value("ports").toList().isEmpty())
-        QCOMPARE(server.portNames(), QStringList{"before"});
+        QCOMPARE(server.portNames(), QStringList {"before"});
 }
 
 void tst_BadInput::templates()
@@ -112,7 +112,8 @@ void tst_BadInput::veryLargeAndDeepFiles()
     QCOMPARE(server.portCount(), 0);
 
     // A long text value and a long list of nameless tags.
-    QByteArray big = "{\"srv\": {\"ports\": [{\"name\": \"P\", \"devices\": [{\"name\": \"D\", \"comment\": \"";
+    QByteArray big = "{\"srv\": {\"ports\": [{\"name\": \"P\", \"devices\": [{\"name\": \"D\", "
+                     "\"comment\": \"";
     big += QByteArray(8 * 1024 * 1024, 'x');
     big += "\", \"tags\": [";
     for (int i = 0; i < 20000; ++i)
@@ -140,11 +141,12 @@ void tst_BadInput::wrongTypesKeepWhatIsValid()
     QCOMPARE(p1->deviceIds(), QStringList());
     Port *p2 = server.portByName(QStringLiteral("P2"));
     QVERIFY(p2);
-    QCOMPARE(p2->deviceIds(), (QStringList{"D1", "D2"}));
+    QCOMPARE(p2->deviceIds(), (QStringList {"D1", "D2"}));
     Device *d2 = p2->device(QStringLiteral("D2"));
     // A number where a name belongs reads as its text.
-    QCOMPARE(d2->tagIds(), (QStringList{"42", "t1", "t2", "t3", "t4", "t5"}));
-    QVERIFY(d2->tag(QStringLiteral("t2"))->isValueNaN() || d2->tag(QStringLiteral("t2"))->value().toFloat() == 0.0f);
+    QCOMPARE(d2->tagIds(), (QStringList {"42", "t1", "t2", "t3", "t4", "t5"}));
+    QVERIFY(d2->tag(QStringLiteral("t2"))->isValueNaN()
+            || d2->tag(QStringLiteral("t2"))->value().toFloat() == 0.0f);
     Tag *t5 = d2->tag(QStringLiteral("t5"));
     QVERIFY(t5->extractBitFrom() <= 15);
     QVERIFY(t5->extractBitTo() <= 16);

@@ -47,8 +47,10 @@ const QList<tst_BuiltinTemplates::Expected> &tst_BuiltinTemplates::table()
         {"Marn-32", "Marn-32", "Marn-32", "Marn-32", "Marn-32", 58, 1, "20230310110000"},
         {"Marn-32M", "Marn-32M", "Marn-32M", "Marn-32M", nullptr, 142, 2, "20180828170000"},
         {"Marn-32MK", "Marn-32MK", "Marn-32MK", "Marn-32MK", nullptr, 142, 2, "20180820090000"},
-        {"Marn-32MKv2", "Marn-32MK", "Marn-32MKv2", "Marn-32MKv2", "Marn-32MK", 152, 2, "20190919140000"},
-        {"Marn-32Mv2", "Marn-32M", "Marn-32Mv2", "Marn-32Mv2", "Marn-32M", 120, 2, "20230727113000"},
+        {"Marn-32MKv2", "Marn-32MK", "Marn-32MKv2", "Marn-32MKv2", "Marn-32MK", 152, 2,
+         "20190919140000"},
+        {"Marn-32Mv2", "Marn-32M", "Marn-32Mv2", "Marn-32Mv2", "Marn-32M", 120, 2,
+         "20230727113000"},
         {"Marn-40", "Marn-40", "Marn-40", "Marn-40", nullptr, 31, 3, "20181010090000"},
         {"Marn-40v2", "Marn-40", "Marn-40v2", "Marn-40v2", "Marn-40", 31, 3, "20240213140000"},
         {"Hevi-7", "Hevi-7", "Hevi-7", "Hevi-7", "Hevi-7", 159, 2, "20180924120000"},
@@ -64,20 +66,32 @@ const QList<tst_BuiltinTemplates::Expected> &tst_BuiltinTemplates::table()
         {"Quil-82", "Quil-82", "Quil-82", "Quil-82", "Quil-82", 60, 2, "20210729103000"},
         {"Quil-82v2", "Quil-82", "Quil-82v2", "Quil-82v2", "Quil-82v2", 66, 2, "20230202144500"},
         {"Rumo-5", "Rumo-5", "Rumo5", "Rumo-5", "Rumo5", 17, 1, "20180815110000"},
-        {"Chemins-Oxygen", "Chemins-Oxygen", "Chemins-Oxygen", "Chemins-Oxygen", "#F3#2002h", 15, 1, "20231002100000"},
-        {"Chemins-Turbidity", "Chemins-Turbidity", "Chemins-Turbidity", "Chemins-Turbidity", "#F3#2002h", 11, 1, "20231002100000"},
-        {"Chunye-CalciumIon", "Chunye-CalciumIon", "Chunye-CalciumIon", "Chunye-CalciumIon", "#F3#109#2", 28, 1, "20230110160000"},
-        {"Chunye-Chlor", "Chunye-Chlor", "Chunye-Chlor", "Chunye-Chlor", "#F3#109#2", 16, 1, "20220728080000"},
-        {"Chunye-Chlor420", "Chunye-Chlor420", "Chunye-Chlor420", "Chunye-Chlor420", "#F3#109#3", 33, 1, "20220729080000"},
-        {"Chunye-ChlorDioxid", "Chunye-ChlorDioxid", "Chunye-ChlorDioxid", "Chunye-ChlorDioxid", "#F3#109#2", 17, 1, "20230116100000"},
-        {"Chunye-ChlorT", "Chunye-Chlor+T", "Chunye-Chlor+T", "Chunye-Chlor+T", "#F3#109#2", 17, 1, "20221004120000"},
-        {"Chunye-Ozone", "Chunye-Ozone", "Chunye-Ozone", "Chunye-Ozone", "#F3#109#2", 17, 1, "20230116100000"},
-        {"Chunye-TURB", "Chunye-Turb", "Chunye-Turb", "Chunye-Turb", "#F3#100#8", 35, 1, "20220721120000"},
+        {"Chemins-Oxygen", "Chemins-Oxygen", "Chemins-Oxygen", "Chemins-Oxygen", "#F3#2002h", 15, 1,
+         "20231002100000"},
+        {"Chemins-Turbidity", "Chemins-Turbidity", "Chemins-Turbidity", "Chemins-Turbidity",
+         "#F3#2002h", 11, 1, "20231002100000"},
+        {"Chunye-CalciumIon", "Chunye-CalciumIon", "Chunye-CalciumIon", "Chunye-CalciumIon",
+         "#F3#109#2", 28, 1, "20230110160000"},
+        {"Chunye-Chlor", "Chunye-Chlor", "Chunye-Chlor", "Chunye-Chlor", "#F3#109#2", 16, 1,
+         "20220728080000"},
+        {"Chunye-Chlor420", "Chunye-Chlor420", "Chunye-Chlor420", "Chunye-Chlor420", "#F3#109#3",
+         33, 1, "20220729080000"},
+        {"Chunye-ChlorDioxid", "Chunye-ChlorDioxid", "Chunye-ChlorDioxid", "Chunye-ChlorDioxid",
+         "#F3#109#2", 17, 1, "20230116100000"},
+        {"Chunye-ChlorT", "Chunye-Chlor+T", "Chunye-Chlor+T", "Chunye-Chlor+T", "#F3#109#2", 17, 1,
+         "20221004120000"},
+        {"Chunye-Ozone", "Chunye-Ozone", "Chunye-Ozone", "Chunye-Ozone", "#F3#109#2", 17, 1,
+         "20230116100000"},
+        {"Chunye-TURB", "Chunye-Turb", "Chunye-Turb", "Chunye-Turb", "#F3#100#8", 35, 1,
+         "20220721120000"},
         {"DDG_GYW", "DDG-GYW", "DDG-GYW", "DDG-GYW", "#F3#2000#4", 12, 1, "20220721120000"},
         {"Sifo-2H", "Sifo-2H", "Sifo-2H", "Sifo-2H", nullptr, 25, 6, "20180814140000"},
-        {"Nengshi-CON", "Nengshi-CON", "Nengshi-CON", "Nengshi-CON", "Nengshi", 28, 1, "20210305120000"},
-        {"Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi", 25, 1, "20201006110000"},
-        {"Nengshi-pH", "Nengshi-pH", "Nengshi-pH", "Nengshi-pH", "Nengshi", 18, 1, "20200923153000"},
+        {"Nengshi-CON", "Nengshi-CON", "Nengshi-CON", "Nengshi-CON", "Nengshi", 28, 1,
+         "20210305120000"},
+        {"Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi-pH-ORP", "Nengshi", 25, 1,
+         "20201006110000"},
+        {"Nengshi-pH", "Nengshi-pH", "Nengshi-pH", "Nengshi-pH", "Nengshi", 18, 1,
+         "20200923153000"},
         {"Wemb-2H", "Wemb-2H", "Wemb-2H", "Wemb-2H", nullptr, 19, 1, "20180815100000"},
         {"Fenn-3", "Fenn-3", "Fenn-3", "Fenn-3", nullptr, 39, 1, "20180801010101"},
         {"Fenn-3v2", "Fenn-3", "Fenn-3v2", "Fenn-3v2", "Fenn-3", 37, 1, "20221024090000"},
@@ -88,7 +102,8 @@ const QList<tst_BuiltinTemplates::Expected> &tst_BuiltinTemplates::table()
         {"Dorv-4v2", "Dorv-4", "Dorv-4v2", "Dorv-4v2", "Dorv-4", 34, 1, "20230125100000"},
         {"Lomt-7(Fenn-3)", "Lomt-7", "Lomt-7", "Lomt-7", nullptr, 132, 1, "20180801150000"},
         {"Lomt-7(Fenn-3v2)", "Lomt-7", "Lomt-7v2", "Lomt-7v2", "Lomt-7", 91, 1, "20231212120000"},
-        {"VisiTraceDO", "VisiTraceDO", "VisiTraceDO", "VisiTraceDO", "LDOUM", 69, 1, "20230424170000"},
+        {"VisiTraceDO", "VisiTraceDO", "VisiTraceDO", "VisiTraceDO", "LDOUM", 69, 1,
+         "20230424170000"},
         {"Y510-B", "Y510-B", "Y510-B", "Y510-B", "Y510-B", 16, 1, "20220516110000"},
         {"Y610-B", "Y610-B", "Y610-B", "Y610-B", "Y610-B", 6, 1, "20220523110000"},
         {"custom", "Custom", "Custom", "Custom", "#F3#0", 23, 1, "20210817120000"},
@@ -100,11 +115,13 @@ const QList<tst_BuiltinTemplates::Expected> &tst_BuiltinTemplates::table()
         {"Zolt-31", "Zolt-31", "Zolt-31", "Zolt-31", "Zolt-31", 51, 2, "20210601140000"},
         {"Zolt-42", "Zolt-42", "Zolt-42", "Zolt-42", "Zolt-42", 58, 1, "20230310140000"},
         {"Zolt-42M", "Zolt-42M", "Zolt-42M", "Zolt-42M", nullptr, 140, 2, "20180511120000"},
-        {"Zolt-42Mv2", "Zolt-42M", "Zolt-42Mv2", "Zolt-42Mv2", "Zolt-42M", 139, 2, "20180828120000"},
+        {"Zolt-42Mv2", "Zolt-42M", "Zolt-42Mv2", "Zolt-42Mv2", "Zolt-42M", 139, 2,
+         "20180828120000"},
         {"Zolt-51", "Zolt-51", "Zolt51", "Zolt-51", "Zolt51", 26, 7, "20180927150000"},
         {"Zolt-51v1", "Zolt-51", "Zolt-51v1", "Zolt-51v1", "Zolt-51", 86, 2, "20180427170000"},
         {"Zolt-51v2", "Zolt-51", "Zolt-51v2", "Zolt-51v2", "Zolt-51", 55, 2, "20211018090000"},
-        {"pH-Arc-Sensors", "pH-Arc-Sensors", "pH-Arc-Sensors", "pH-Arc-Sensors", "EPHUM0", 69, 1, "20190304170000"},
+        {"pH-Arc-Sensors", "pH-Arc-Sensors", "pH-Arc-Sensors", "pH-Arc-Sensors", "EPHUM0", 69, 1,
+         "20190304170000"},
     };
     return rows;
 }
@@ -154,7 +171,8 @@ static bool isTwoNumbers(const QVariant &v)
 // Registers [first, last] that a tag occupies on its read or write side.
 static QPair<uint, uint> registerSpan(const Tag *tag)
 {
-    const int bytes = tag->deviceType() == Tag::dtByteArray ? tag->arraySize() : tag->deviceTypeLength();
+    const int bytes
+        = tag->deviceType() == Tag::dtByteArray ? tag->arraySize() : tag->deviceTypeLength();
     const uint count = uint(qMax(1, (bytes + 1) / 2));
     return {tag->address(), tag->address() + count - 1};
 }
@@ -164,7 +182,8 @@ void tst_BuiltinTemplates::eachTemplate()
     QFETCH(int, row);
     const Expected &expected = table().at(row);
     DeviceTemplateCatalog *catalog = DeviceTemplateCatalog::instance();
-    const QString name = catalog->templateNameByFile(QLatin1String(expected.file) + QStringLiteral(".tpl"));
+    const QString name
+        = catalog->templateNameByFile(QLatin1String(expected.file) + QStringLiteral(".tpl"));
     QCOMPARE(name, QLatin1String(expected.name));
     const QVariantMap map = catalog->template_map(name);
     for (const char *key : {"id", "name", "producer", "comment", "version", "device"})
@@ -202,8 +221,10 @@ void tst_BuiltinTemplates::eachTemplate()
         const QString access = tag.value("access").toString();
         QVERIFY2(Tag::accessTypeToString(Tag::accessTypeFromString(access)) == access,
                  qPrintable(tagName + ": " + access));
-        QVERIFY2(QList<int>({0, 1, 2, 3, 4}).contains(tag.value("read_func").toInt()), qPrintable(tagName));
-        QVERIFY2(QList<int>({0, 4, 5, 6, 15, 16}).contains(tag.value("write_func").toInt()), qPrintable(tagName));
+        QVERIFY2(QList<int>({0, 1, 2, 3, 4}).contains(tag.value("read_func").toInt()),
+                 qPrintable(tagName));
+        QVERIFY2(QList<int>({0, 4, 5, 6, 15, 16}).contains(tag.value("write_func").toInt()),
+                 qPrintable(tagName));
         if (tag.contains("limits") && !tag.value("limits").toList().isEmpty()
             && tag.value("limits").toList().size() != 3)
             QVERIFY2(isTwoNumbers(tag.value("limits")), qPrintable(tagName));
@@ -234,7 +255,7 @@ void tst_BuiltinTemplates::eachTemplate()
                 continue;
             const bool grouped = a->tagType() == Tag::ttSeparate || b->tagType() == Tag::ttSeparate;
             const bool bitFields = (a->useBitExtraction() || a->useBitExtractionReadOnly())
-                                   || (b->useBitExtraction() || b->useBitExtractionReadOnly());
+                || (b->useBitExtraction() || b->useBitExtractionReadOnly());
             QVERIFY2(grouped || bitFields,
                      qPrintable(QStringLiteral("%1 and %2 overlap").arg(a->name(), b->name())));
         }
@@ -249,7 +270,8 @@ void tst_BuiltinTemplates::extendedByteOrderOnce()
     DeviceTemplateCatalog *catalog = DeviceTemplateCatalog::instance();
     int count = 0;
     for (const QString &name : catalog->templateNames()) {
-        const QVariantList tags = catalog->template_map(name).value("device").toMap().value("tags").toList();
+        const QVariantList tags
+            = catalog->template_map(name).value("device").toMap().value("tags").toList();
         for (const QVariant &tag : tags) {
             if (tag.toMap().value("byteorder").toString() == QLatin1String("1032547698!1032"))
                 ++count;

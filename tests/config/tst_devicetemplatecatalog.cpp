@@ -80,13 +80,15 @@ void tst_DeviceTemplateCatalog::userFileShadowsBuiltIn()
 {
     ScopedWorkDir work;
     const QString userDir = AppSettings::templates_dir();
-    writeTemplate(userDir + "/custom.tpl",
-                  {{"id", "Custom"}, {"name", "Custom"}, {"comment", "мой"}, {"device", QVariantMap()}});
+    writeTemplate(
+        userDir + "/custom.tpl",
+        {{"id", "Custom"}, {"name", "Custom"}, {"comment", "мой"}, {"device", QVariantMap()}});
     DeviceTemplateCatalog *catalog = DeviceTemplateCatalog::instance();
     catalog->loadTemplates(userDir);
     QCOMPARE(catalog->template_map(QStringLiteral("Custom")).value("comment").toString(),
              QStringLiteral("мой"));
-    QCOMPARE(catalog->templateFile(QStringLiteral("Custom")), QFileInfo(userDir + "/custom.tpl").absoluteFilePath());
+    QCOMPARE(catalog->templateFile(QStringLiteral("Custom")),
+             QFileInfo(userDir + "/custom.tpl").absoluteFilePath());
     // Loaded once, not twice.
     QCOMPARE(catalog->templateNames().count(QStringLiteral("Custom")), 1);
 }
@@ -95,9 +97,12 @@ void tst_DeviceTemplateCatalog::duplicateNameIsRefused()
 {
     ScopedWorkDir work;
     const QString userDir = AppSettings::templates_dir();
-    writeTemplate(userDir + "/another.tpl", {{"id", "X"}, {"name", "Custom"}, {"comment", "clash"}});
+    writeTemplate(userDir + "/another.tpl",
+                  {{"id", "X"}, {"name", "Custom"}, {"comment", "clash"}});
     DeviceTemplateCatalog *catalog = DeviceTemplateCatalog::instance();
-    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("catalog already contains template 'Custom'")));
+    QTest::ignoreMessage(
+        QtDebugMsg,
+        QRegularExpression(QStringLiteral("catalog already contains template 'Custom'")));
     catalog->loadTemplates(userDir);
     QCOMPARE(catalog->template_map(QStringLiteral("Custom")).value("comment").toString(),
              QStringLiteral("Шаблон для настройки"));
@@ -108,10 +113,12 @@ void tst_DeviceTemplateCatalog::fileWithoutIdIsInvalid()
 {
     ScopedWorkDir work;
     const QString userDir = AppSettings::templates_dir();
-    writeTemplate(userDir + "/noid.tpl", {{"name", "NoId"}, {"device", QVariantMap{{"name", "x"}}}});
+    writeTemplate(userDir + "/noid.tpl",
+                  {{"name", "NoId"}, {"device", QVariantMap {{"name", "x"}}}});
     writeTemplate(userDir + "/good.tpl", {{"id", "Good"}, {"name", "Good"}});
     DeviceTemplateCatalog *catalog = DeviceTemplateCatalog::instance();
-    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("invalid template '.*noid.tpl'")));
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression(QStringLiteral("invalid template '.*noid.tpl'")));
     catalog->loadTemplates(userDir);
     QVERIFY(!catalog->templateNames().contains(QStringLiteral("NoId")));
     QVERIFY(catalog->templateNames().contains(QStringLiteral("Good")));

@@ -46,11 +46,11 @@ void tst_Utils::mapMerge()
 {
     QVariantMap into;
     vmap_merge({{"a", 1}}, into);
-    QCOMPARE(into, (QVariantMap{{"a", 1}}));
+    QCOMPARE(into, (QVariantMap {{"a", 1}}));
     vmap_merge({{"a", 2}, {"b", 3}}, into);
-    QCOMPARE(into, (QVariantMap{{"a", 2}, {"b", 3}}));
+    QCOMPARE(into, (QVariantMap {{"a", 2}, {"b", 3}}));
     vmap_merge_new({{"a", 9}, {"c", 4}}, into);
-    QCOMPARE(into, (QVariantMap{{"a", 2}, {"b", 3}, {"c", 4}}));
+    QCOMPARE(into, (QVariantMap {{"a", 2}, {"b", 3}, {"c", 4}}));
 }
 
 void tst_Utils::mapPaths()

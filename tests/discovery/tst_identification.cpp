@@ -69,7 +69,7 @@ void tst_Identification::answer(const QByteArray &pdu)
 {
     m_slave->setHandler([this, pdu](const QByteArray &request) {
         m_lastRequest = request;
-        return FakeSlave::Script{{withCrc(QByteArray(1, char(5)) + pdu), 0, -1}};
+        return FakeSlave::Script {{withCrc(QByteArray(1, char(5)) + pdu), 0, -1}};
     });
 }
 
@@ -87,9 +87,11 @@ void tst_Identification::grammar_data()
     QTest::newRow("#F3#0") << "#F3#0" << int(ModbusIdentity::ReadRegisters) << 0 << 1;
     QTest::newRow("#F3#109#2") << "#F3#109#2" << int(ModbusIdentity::ReadRegisters) << 109 << 2;
     QTest::newRow("#F3#2002h") << "#F3#2002h" << int(ModbusIdentity::ReadRegisters) << 0x2002 << 1;
-    QTest::newRow("#F3#0x2002") << "#F3#0x2002" << int(ModbusIdentity::ReadRegisters) << 0x2002 << 1;
+    QTest::newRow("#F3#0x2002") << "#F3#0x2002" << int(ModbusIdentity::ReadRegisters) << 0x2002
+                                << 1;
     QTest::newRow("#F3#109#x") << "#F3#109#x" << int(ModbusIdentity::ReadRegisters) << 109 << 1;
-    QTest::newRow("lower case mark") << "#f3#2000#4" << int(ModbusIdentity::ReadRegisters) << 2000 << 4;
+    QTest::newRow("lower case mark")
+        << "#f3#2000#4" << int(ModbusIdentity::ReadRegisters) << 2000 << 4;
     QTest::newRow("hamilton") << "EPHUM0" << int(ModbusIdentity::Hamilton) << 1031 << 8;
     QTest::newRow("hamilton lower") << "ephum0" << int(ModbusIdentity::Hamilton) << 1031 << 8;
     QTest::newRow("nengshi") << "Nengshi" << int(ModbusIdentity::Nengshi) << 0 << 10;
@@ -118,23 +120,54 @@ void tst_Identification::function17_data()
     QTest::addColumn<int>("deviceId");
     QTest::addColumn<QString>("firmware");
     QTest::addColumn<QString>("date");
-    QTest::newRow("long form") << "Zolt-42" << QByteArray("\x2a\xff" "Zolt-42 N123 2021 panel 12345-01 26:08:2019 rev2")
-                               << true << 42 << "12345-01" << "26.08.2019";
-    QTest::newRow("short form") << "Marn-32" << QByteArray("\x07\xff" "Marn-32 MK 54321-02 01:02:2020") << true << 7
-                                << "54321-02" << "01.02.2020";
-    QTest::newRow("date only") << "Dorv-4" << QByteArray("\x07\xff" "Dorv-4 v1 03:04:2021") << true << 7 << ""
+    QTest::newRow("long form") << "Zolt-42"
+                               << QByteArray("\x2a\xff"
+                                             "Zolt-42 N123 2021 panel 12345-01 26:08:2019 rev2")
+                               << true << 42 << "12345-01"
+                               << "26.08.2019";
+    QTest::newRow("short form") << "Marn-32"
+                                << QByteArray("\x07\xff"
+                                              "Marn-32 MK 54321-02 01:02:2020")
+                                << true << 7 << "54321-02"
+                                << "01.02.2020";
+    QTest::newRow("date only") << "Dorv-4"
+                               << QByteArray("\x07\xff"
+                                             "Dorv-4 v1 03:04:2021")
+                               << true << 7 << ""
                                << "03.04.2021";
-    QTest::newRow("another model") << "Zolt-42" << QByteArray("\x07\xff" "Marn-32 54321-02 01.02.2020") << false << 0
-                                   << "" << "";
-    QTest::newRow("case matters") << "zolt-42" << QByteArray("\x07\xff" "Zolt-42 54321-02 01.02.2020") << false << 0
-                                  << "" << "";
-    QTest::newRow("compact name") << "Zolt30" << QByteArray("\x10\xff" "Zolt30") << true << 16 << "" << "";
-    QTest::newRow("no blank, not compact") << "Quil" << QByteArray("\x10\xff" "Quil") << false << 0 << "" << "";
-    QTest::newRow("id 0xFF counts as checked") << "Fenn-3" << QByteArray("\xff\xff" "Fenn-3 v2 12345-01 01.01.2020")
-                                               << true << -1 << "12345-01" << "01.01.2020";
-    QTest::newRow("id 0 stays unchecked") << "Fenn-3" << QByteArray("\x00\xff" "Fenn-3 v2 12345-01 01.01.2020", 31)
-                                          << true << 0 << "12345-01" << "01.01.2020";
-    QTest::newRow("too short") << "Z" << QByteArray("\x01") << false << 0 << "" << "";
+    QTest::newRow("another model") << "Zolt-42"
+                                   << QByteArray("\x07\xff"
+                                                 "Marn-32 54321-02 01.02.2020")
+                                   << false << 0 << ""
+                                   << "";
+    QTest::newRow("case matters") << "zolt-42"
+                                  << QByteArray("\x07\xff"
+                                                "Zolt-42 54321-02 01.02.2020")
+                                  << false << 0 << ""
+                                  << "";
+    QTest::newRow("compact name") << "Zolt30"
+                                  << QByteArray("\x10\xff"
+                                                "Zolt30")
+                                  << true << 16 << ""
+                                  << "";
+    QTest::newRow("no blank, not compact") << "Quil"
+                                           << QByteArray("\x10\xff"
+                                                         "Quil")
+                                           << false << 0 << ""
+                                           << "";
+    QTest::newRow("id 0xFF counts as checked") << "Fenn-3"
+                                               << QByteArray("\xff\xff"
+                                                             "Fenn-3 v2 12345-01 01.01.2020")
+                                               << true << -1 << "12345-01"
+                                               << "01.01.2020";
+    QTest::newRow("id 0 stays unchecked") << "Fenn-3"
+                                          << QByteArray("\x00\xff"
+                                                        "Fenn-3 v2 12345-01 01.01.2020",
+                                                        31)
+                                          << true << 0 << "12345-01"
+                                          << "01.01.2020";
+    QTest::newRow("too short") << "Z" << QByteArray("\x01") << false << 0 << ""
+                               << "";
 }
 
 void tst_Identification::function17()
@@ -162,12 +195,22 @@ void tst_Identification::firmwareDate_data()
     QTest::addColumn<QByteArray>("payload");
     QTest::addColumn<bool>("result");
     QTest::addColumn<QString>("error");
-    QTest::newRow("equal passes") << "26.08.2019" << QByteArray("\x07\xff" "Marn-32MK v2 12345-01 26:08:2019") << true << "";
-    QTest::newRow("newer passes") << "26.08.2019" << QByteArray("\x07\xff" "Marn-32MK v2 12345-01 27.08.2019") << true << "";
-    QTest::newRow("older is reported") << "26.08.2019" << QByteArray("\x07\xff" "Marn-32MK v2 12345-01 25.08.2019")
+    QTest::newRow("equal passes") << "26.08.2019"
+                                  << QByteArray("\x07\xff"
+                                                "Marn-32MK v2 12345-01 26:08:2019")
+                                  << true << "";
+    QTest::newRow("newer passes") << "26.08.2019"
+                                  << QByteArray("\x07\xff"
+                                                "Marn-32MK v2 12345-01 27.08.2019")
+                                  << true << "";
+    QTest::newRow("older is reported") << "26.08.2019"
+                                       << QByteArray("\x07\xff"
+                                                     "Marn-32MK v2 12345-01 25.08.2019")
                                        << false << "is less than template date";
-    QTest::newRow("no date") << "26.08.2019" << QByteArray("\x07\xff" "Marn-32MK v2 12345-01 soon") << false
-                             << "Invalid device firmware date";
+    QTest::newRow("no date") << "26.08.2019"
+                             << QByteArray("\x07\xff"
+                                           "Marn-32MK v2 12345-01 soon")
+                             << false << "Invalid device firmware date";
 }
 
 void tst_Identification::firmwareDate()
@@ -224,7 +267,8 @@ void tst_Identification::silentAddressIsNotFound()
     QVERIFY(!m_device->checkDevice());
     QCOMPARE(m_device->deviceID(), 0);
     QCOMPARE(m_device->lastResult(), 5);
-    QVERIFY2(m_device->errorString().startsWith(QStringLiteral("*** Not found Zolt-21 at address 5 via")),
+    QVERIFY2(m_device->errorString().startsWith(
+                 QStringLiteral("*** Not found Zolt-21 at address 5 via")),
              qPrintable(m_device->errorString()));
 }
 

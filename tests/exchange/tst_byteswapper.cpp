@@ -19,9 +19,12 @@ void tst_ByteSwapper::swap_data()
     QTest::addColumn<QByteArray>("data");
     QTest::addColumn<int>("n");
     QTest::addColumn<QByteArray>("expected");
-    QTest::newRow("pairs") << QByteArray::fromHex("11223344") << 2 << QByteArray::fromHex("22114433");
-    QTest::newRow("whole") << QByteArray::fromHex("11223344") << 4 << QByteArray::fromHex("44332211");
-    QTest::newRow("n below 1") << QByteArray::fromHex("112233") << 0 << QByteArray::fromHex("112233");
+    QTest::newRow("pairs") << QByteArray::fromHex("11223344") << 2
+                           << QByteArray::fromHex("22114433");
+    QTest::newRow("whole") << QByteArray::fromHex("11223344") << 4
+                           << QByteArray::fromHex("44332211");
+    QTest::newRow("n below 1") << QByteArray::fromHex("112233") << 0
+                               << QByteArray::fromHex("112233");
     QTest::newRow("not a multiple") << QByteArray::fromHex("112233") << 2 << QByteArray();
     QTest::newRow("empty") << QByteArray() << 2 << QByteArray();
 }
@@ -48,7 +51,8 @@ void tst_ByteSwapper::convert_data()
     const QByteArray fourteen = QByteArray::fromHex("000102030405060708090a0b0c0d");
     QTest::newRow("extended with base 10")
         << fourteen << "1032547698!1032" << QByteArray::fromHex("010003020504070609080b0a0d0c");
-    QTest::newRow("base marks") << fourteen << "!0~0" << QByteArray::fromHex("0a000000000000000000000000000000").left(14);
+    QTest::newRow("base marks") << fourteen << "!0~0"
+                                << QByteArray::fromHex("0a000000000000000000000000000000").left(14);
 }
 
 void tst_ByteSwapper::convert()

@@ -1,10 +1,10 @@
 #include "exchange/modbuslogger.h"
 #include "fakeslave.h"
+#include "modbus/modbus.h"
 #include "model/device.h"
 #include "model/port.h"
 #include "model/server.h"
 #include "model/tag.h"
-#include "modbus/modbus.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -56,7 +56,8 @@ private:
 
 bool tst_TagExchange::startPeer()
 {
-    m_peer.start(QStringLiteral(RTU_PEER), {QStringLiteral("--slave"), QStringLiteral("1"), QStringLiteral("--pty")});
+    m_peer.start(QStringLiteral(RTU_PEER),
+                 {QStringLiteral("--slave"), QStringLiteral("1"), QStringLiteral("--pty")});
     if (!m_peer.waitForStarted(5000) || !m_peer.waitForReadyRead(5000))
         return false;
     m_peerPath = QString::fromLocal8Bit(m_peer.readLine()).trimmed();
@@ -96,7 +97,8 @@ void tst_TagExchange::cleanup()
 Tag *tst_TagExchange::addTag(const QVariantMap &map)
 {
     Tag *tag = m_device->addTag(map.value("name").toString());
-    QVariantMap full = {{"access", "ReadWrite"}, {"read_func", 3}, {"write_func", 16}, {"request_delay", 0}};
+    QVariantMap full
+        = {{"access", "ReadWrite"}, {"read_func", 3}, {"write_func", 16}, {"request_delay", 0}};
     for (auto it = map.cbegin(); it != map.cend(); ++it)
         full.insert(it.key(), it.value());
     tag->load(full);
@@ -146,8 +148,11 @@ void tst_TagExchange::byteOrderRule()
 {
     // "1032" swaps the bytes of each register: 1.0 (00 00 80 3F) leaves as 00 00 3F 80,
     // which the swapped port puts on the wire as registers 0x803F, 0x0000.
-    Tag *tag = addTag({{"name", "r"}, {"address", "20h"}, {"device_type", "float32"},
-                       {"byteorder", "1032"}, {"byteorder_enabled", true}});
+    Tag *tag = addTag({{"name", "r"},
+                       {"address", "20h"},
+                       {"device_type", "float32"},
+                       {"byteorder", "1032"},
+                       {"byteorder_enabled", true}});
     QVERIFY(tag->write(1.0f));
     QCOMPARE(registerAt(0x20), 0x803Fu);
     QCOMPARE(registerAt(0x21), 0x0000u);
@@ -159,10 +164,20 @@ void tst_TagExchange::separateBlock()
 {
     // A block of 4 registers at 0x100: A int16 at offset 0, B float32 at offset 2.
     const QStringList group = {"A", "B"};
-    Tag *a = addTag({{"name", "A"}, {"type", "separate"}, {"address", "100h"}, {"device_type", "int16"},
-                     {"address_offset", 0}, {"registers_count", 4}, {"tags_group", group}});
-    Tag *b = addTag({{"name", "B"}, {"type", "separate"}, {"address", "100h"}, {"device_type", "float32"},
-                     {"address_offset", 2}, {"registers_count", 4}, {"tags_group", group}});
+    Tag *a = addTag({{"name", "A"},
+                     {"type", "separate"},
+                     {"address", "100h"},
+                     {"device_type", "int16"},
+                     {"address_offset", 0},
+                     {"registers_count", 4},
+                     {"tags_group", group}});
+    Tag *b = addTag({{"name", "B"},
+                     {"type", "separate"},
+                     {"address", "100h"},
+                     {"device_type", "float32"},
+                     {"address_offset", 2},
+                     {"registers_count", 4},
+                     {"tags_group", group}});
     a->setValue(-2);
     QVERIFY(b->write(2.5f));
     // One write rewrote the block with A's last known value.
@@ -187,8 +202,12 @@ void tst_TagExchange::bitFieldKeepsOtherBits()
 {
     Tag *whole = addTag({{"name", "word"}, {"address", "30h"}, {"device_type", "uint16"}});
     QVERIFY(whole->write(0xABCD));
-    Tag *field = addTag({{"name", "field"}, {"address", "30h"}, {"device_type", "uint16"},
-                         {"use_bit_extraction", true}, {"extract_bit_from", 4}, {"extract_bit_to", 7}});
+    Tag *field = addTag({{"name", "field"},
+                         {"address", "30h"},
+                         {"device_type", "uint16"},
+                         {"use_bit_extraction", true},
+                         {"extract_bit_from", 4},
+                         {"extract_bit_to", 7}});
     QCOMPARE(field->read().toInt(), 0xC);
     QVERIFY(field->write(0x5));
     QCOMPARE(registerAt(0x30), 0xAB5Du);
@@ -198,9 +217,13 @@ void tst_TagExchange::bitFieldKeepsOtherBits()
 void tst_TagExchange::bitTagsUseBitFunctions()
 {
     // A one-byte tag configured with function 3 is read with function 2.
-    Tag *input = addTag({{"name", "di"}, {"address", "3"}, {"device_type", "bit"}, {"read_func", 3}});
+    Tag *input
+        = addTag({{"name", "di"}, {"address", "3"}, {"device_type", "bit"}, {"read_func", 3}});
     QCOMPARE(input->read().toBool(), true); // discrete input i is on when i % 3 == 0
-    Tag *coil = addTag({{"name", "coil"}, {"address", "4"}, {"device_type", "bit"}, {"read_func", 1},
+    Tag *coil = addTag({{"name", "coil"},
+                        {"address", "4"},
+                        {"device_type", "bit"},
+                        {"read_func", 1},
                         {"write_func", 5}});
     QVERIFY(coil->write(true));
     QCOMPARE(coil->read().toBool(), true);
@@ -210,10 +233,12 @@ void tst_TagExchange::bitTagsUseBitFunctions()
 
 void tst_TagExchange::accessRefusals()
 {
-    Tag *ro = addTag({{"name", "ro"}, {"address", "40h"}, {"device_type", "uint16"}, {"access", "ReadOnly"}});
+    Tag *ro = addTag(
+        {{"name", "ro"}, {"address", "40h"}, {"device_type", "uint16"}, {"access", "ReadOnly"}});
     QVERIFY(!ro->write(5));
     QCOMPARE(ro->lastResult(), 3);
-    Tag *wo = addTag({{"name", "wo"}, {"address", "40h"}, {"device_type", "uint16"}, {"access", "WriteOnly"}});
+    Tag *wo = addTag(
+        {{"name", "wo"}, {"address", "40h"}, {"device_type", "uint16"}, {"access", "WriteOnly"}});
     wo->setValue(9);
     QCOMPARE(wo->read().toInt(), 9); // success without an exchange
     QCOMPARE(wo->lastResult(), 1);
@@ -255,8 +280,10 @@ void tst_TagExchange::timeoutGivesTxLineOnly()
     m_port->setSerialName(QString::fromLocal8Bit(silent.path()));
     m_device->setResponceTimeout(150);
     QSignalSpy messages(m_device, &Device::modbusMessage);
-    Tag *ch = addTag({{"name", "ch1_value"}, {"address", "0"}, {"device_type", "float32"},
-                      {"config_group", QStringList{"Channel", "ИП 1"}}});
+    Tag *ch = addTag({{"name", "ch1_value"},
+                      {"address", "0"},
+                      {"device_type", "float32"},
+                      {"config_group", QStringList {"Channel", "ИП 1"}}});
     ch->setValue(3.0f);
     QElapsedTimer timer;
     timer.start();
@@ -279,7 +306,8 @@ void tst_TagExchange::timeoutGivesTxLineOnly()
 
 void tst_TagExchange::exceptionReply()
 {
-    Tag *tag = addTag({{"name", "busy"}, {"address", QString::number(0x7F02)}, {"device_type", "uint16"}});
+    Tag *tag = addTag(
+        {{"name", "busy"}, {"address", QString::number(0x7F02)}, {"device_type", "uint16"}});
     tag->read();
     QCOMPARE(tag->lastResult(), 2);
     QVERIFY2(tag->errorString().endsWith(QStringLiteral("(2)")), qPrintable(tag->errorString()));
@@ -291,7 +319,7 @@ void tst_TagExchange::badCrcGivesBothLines()
     fake.setHandler([](const QByteArray &request) {
         // A plausible reply to a read of one register, with a broken checksum.
         Q_UNUSED(request);
-        return FakeSlave::Script{{QByteArray::fromHex("010302abcd0000"), 0, -1}};
+        return FakeSlave::Script {{QByteArray::fromHex("010302abcd0000"), 0, -1}};
     });
     m_port->setSerialName(QString::fromLocal8Bit(fake.path()));
     QSignalSpy messages(m_device, &Device::modbusMessage);
@@ -300,11 +328,13 @@ void tst_TagExchange::badCrcGivesBothLines()
     timer.start();
     QCOMPARE(m_device->read(QStringLiteral("crc"), 0, 3, 2, out), 2);
     QVERIFY(timer.elapsed() >= 30); // flush and pause
-    QVERIFY2(m_device->errorString().endsWith(QStringLiteral("(13)")), qPrintable(m_device->errorString()));
+    QVERIFY2(m_device->errorString().endsWith(QStringLiteral("(13)")),
+             qPrintable(m_device->errorString()));
     QString all;
     for (const QList<QVariant> &m : messages)
         all += m.at(1).toString() + QLatin1Char('\n');
-    QVERIFY2(all.contains(QStringLiteral(" TX(")) && all.contains(QStringLiteral(" RX(")), qPrintable(all));
+    QVERIFY2(all.contains(QStringLiteral(" TX(")) && all.contains(QStringLiteral(" RX(")),
+             qPrintable(all));
     m_port->close();
 }
 
@@ -342,7 +372,8 @@ void tst_TagExchange::loggerTap()
     tag->read();
     QCOMPARE(tx.count(), 1);
     QCOMPARE(rx.count(), 1);
-    QVERIFY(tx.at(0).at(0).toString().contains(QStringLiteral("linedevt TX(-/-): 01 03 00 80 00 01")));
+    QVERIFY(
+        tx.at(0).at(0).toString().contains(QStringLiteral("linedevt TX(-/-): 01 03 00 80 00 01")));
     QVERIFY(rx.at(0).at(0).toString().contains(QStringLiteral(" RX(")));
     ModbusLogger::release();
 }

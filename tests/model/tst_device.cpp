@@ -79,7 +79,7 @@ void tst_Device::jsonKeys()
                     {"producer", "Vexlor Works"}});
     QCOMPARE(m_device->name(), QStringLiteral("dev"));
     QCOMPARE(m_device->deviceModbusID(), QStringLiteral("Zolt-21")); // from the template
-    QVERIFY(m_device->byteSwappingEnabled());                        // missing means on
+    QVERIFY(m_device->byteSwappingEnabled()); // missing means on
     QCOMPARE(m_device->cashTimeout(), 70);
     QCOMPARE(m_device->responceTimeout(), 300);
     QCOMPARE(m_device->address(), 0); // the address is set from its tag, not read here
@@ -105,25 +105,25 @@ void tst_Device::loadReplacesTagsAndChannels()
     const QVariantMap map = {
         {"name", "d"},
         {"tags",
-         QVariantList{
-             QVariantMap{{"name", "ch1_value"}, {"config_group", QStringList{"channel", "x"}}},
-             QVariantMap{{"name", "setting"}},
+         QVariantList {
+             QVariantMap {{"name", "ch1_value"}, {"config_group", QStringList {"channel", "x"}}},
+             QVariantMap {{"name", "setting"}},
              QString("not a map"),
-             QVariantMap{{"name", ""}},
+             QVariantMap {{"name", ""}},
          }},
     };
     QSignalSpy deleting(m_device, &Device::tagsDeleting);
     QVERIFY(m_device->load(map));
     QCOMPARE(deleting.count(), 1);
-    QCOMPARE(m_device->tagIds(), (QStringList{"ch1_value", "setting"}));
-    QCOMPARE(m_device->ChannelNames(), QStringList{"ch1_value"});
-    QCOMPARE(m_device->queuedChannels(), QStringList{"ch1_value"});
+    QCOMPARE(m_device->tagIds(), (QStringList {"ch1_value", "setting"}));
+    QCOMPARE(m_device->ChannelNames(), QStringList {"ch1_value"});
+    QCOMPARE(m_device->queuedChannels(), QStringList {"ch1_value"});
     QVERIFY(!m_device->tag(QStringLiteral("old")));
 }
 
 void tst_Device::handEditMakesCustom()
 {
-    m_device->load({{"template", "Zolt-21"}, {"tags", QVariantList{QVariantMap{{"name", "a"}}}}});
+    m_device->load({{"template", "Zolt-21"}, {"tags", QVariantList {QVariantMap {{"name", "a"}}}}});
     QCOMPARE(m_device->deviceTemplateName(), QStringLiteral("Zolt-21"));
     QSignalSpy spy(m_device, &Device::deviceTemplateChanged);
     QVERIFY(m_device->removeChildren(0, 1));
@@ -199,7 +199,7 @@ void tst_Device::pasteMarksChanged()
 {
     QSignalSpy spy(m_device, &ServerItem::modified);
     m_device->setDeviceTagState(Device::FromFile);
-    const QVariantMap clip = {{"name", "d"}, {"tags", QVariantList{QVariantMap{{"name", "x"}}}}};
+    const QVariantMap clip = {{"name", "d"}, {"tags", QVariantList {QVariantMap {{"name", "x"}}}}};
     QVERIFY(m_device->pasteFromClipboard(clip));
     QVERIFY(m_device->hasDeviceTagStateFlag(Device::Changed));
     QCOMPARE(spy.count(), 1);
@@ -225,11 +225,14 @@ void tst_Device::shortAndLongMarks_data()
     QTest::addColumn<int>("state");
     QTest::addColumn<QString>("shortMark");
     QTest::addColumn<QString>("longText");
-    QTest::newRow("file") << 1 << "" << "from file";
+    QTest::newRow("file") << 1 << ""
+                          << "from file";
     QTest::newRow("read changed written") << (1 | 4 | 2 | 8) << "[>*<]"
-                                           << "form device / changed / saved in device";
-    QTest::newRow("polled") << 16 << "[@]" << "from file / periodically requested";
-    QTest::newRow("download") << (4 | 64) << "[>!]" << "form device";
+                                          << "form device / changed / saved in device";
+    QTest::newRow("polled") << 16 << "[@]"
+                            << "from file / periodically requested";
+    QTest::newRow("download") << (4 | 64) << "[>!]"
+                              << "form device";
 }
 
 void tst_Device::shortAndLongMarks()
@@ -248,10 +251,12 @@ void tst_Device::exceptionalAnswers_data()
     QTest::addColumn<QByteArray>("answer");
     QTest::addColumn<bool>("retry");
     QTest::addColumn<QString>("text");
-    QTest::newRow("illegal value") << QByteArray::fromHex("05c103") << false << "illegal data value";
-    QTest::newRow("busy with another") << QByteArray::fromHex("05c104") << true
-                                       << "the device is busy with another request";
-    QTest::newRow("accepted") << QByteArray::fromHex("05c105") << true << "request accepted for execution";
+    QTest::newRow("illegal value")
+        << QByteArray::fromHex("05c103") << false << "illegal data value";
+    QTest::newRow("busy with another")
+        << QByteArray::fromHex("05c104") << true << "the device is busy with another request";
+    QTest::newRow("accepted") << QByteArray::fromHex("05c105") << true
+                              << "request accepted for execution";
     QTest::newRow("busy") << QByteArray::fromHex("05c106") << true << "device busy";
     QTest::newRow("unknown") << QByteArray::fromHex("05c101") << false << "unknown answer";
     QTest::newRow("another address") << QByteArray::fromHex("06c106") << false << "";
@@ -305,7 +310,7 @@ void tst_Device::channelQueue()
     m_device->setEnabled(false);
     QVERIFY(m_device->channelTagsToQueue().isEmpty());
     m_device->setEnabled(true);
-    QCOMPARE(m_device->channelTagsToQueue(), (QList<Tag *>{ch, nullptr}));
+    QCOMPARE(m_device->channelTagsToQueue(), (QList<Tag *> {ch, nullptr}));
 
     // A new value reaches the device's channel signal.
     QSignalSpy spy(m_device, &Device::appendChannelData);
@@ -323,7 +328,7 @@ void tst_Device::channelQueue()
 
     m_device->removeChannel(ch);
     QVERIFY(m_device->ChannelNames().isEmpty());
-    QCOMPARE(m_device->queuedChannels(), QStringList{"ghost"});
+    QCOMPARE(m_device->queuedChannels(), QStringList {"ghost"});
 }
 
 void tst_Device::portSettingsInTags()
@@ -349,7 +354,7 @@ void tst_Device::nanTags()
     Tag *b = m_device->addTag(QStringLiteral("b"));
     a->setValue(std::numeric_limits<float>::quiet_NaN());
     b->setValue(1.0f);
-    QCOMPARE(m_device->tagsWithNan(), QList<Tag *>{a});
+    QCOMPARE(m_device->tagsWithNan(), QList<Tag *> {a});
     m_device->fixTagsWithNanToNull();
     QVERIFY(!a->value().isValid());
     QVERIFY(!m_device->hasTagsWithNan());

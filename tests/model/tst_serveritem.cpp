@@ -28,11 +28,16 @@ void tst_ServerItem::validName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("blank") << "a b" << "a_b";
-    QTest::newRow("run of blanks and tabs") << "a \t  b" << "a_b";
-    QTest::newRow("backslashes only") << "\\\\\\" << "_";
-    QTest::newRow("mixed") << "x\\ \\y" << "x_y";
-    QTest::newRow("untouched") << "Port-1.2" << "Port-1.2";
+    QTest::newRow("blank") << "a b"
+                           << "a_b";
+    QTest::newRow("run of blanks and tabs") << "a \t  b"
+                                            << "a_b";
+    QTest::newRow("backslashes only") << "\\\\\\"
+                                      << "_";
+    QTest::newRow("mixed") << "x\\ \\y"
+                           << "x_y";
+    QTest::newRow("untouched") << "Port-1.2"
+                               << "Port-1.2";
 }
 
 void tst_ServerItem::validName()
@@ -178,7 +183,7 @@ void tst_ServerItem::moveChildren()
     QCOMPARE(server.child(0), b);
     QCOMPARE(server.moveChildDown(c), 2);
     QCOMPARE(server.moveChildUp(c), 1);
-    QCOMPARE(server.ports(), (QList<Port *>{b, c, a}));
+    QCOMPARE(server.ports(), (QList<Port *> {b, c, a}));
     QCOMPARE(a->childNumber(), 2);
     QCOMPARE(server.childNumber(), -1);
 }

@@ -120,8 +120,10 @@ void tst_Tag::extractBitClamps()
 
     // Loading clamps "extract_bit_to" without pulling "from" down.
     Tag *loaded = m_device->addTag(QStringLiteral("u"));
-    loaded->load({{"device_type", "uint16"}, {"use_bit_extraction", true},
-                  {"extract_bit_from", 40}, {"extract_bit_to", 99}});
+    loaded->load({{"device_type", "uint16"},
+                  {"use_bit_extraction", true},
+                  {"extract_bit_from", 40},
+                  {"extract_bit_to", 99}});
     QCOMPARE(loaded->extractBitFrom(), 15);
     QCOMPARE(loaded->extractBitTo(), 16);
 }
@@ -159,7 +161,7 @@ void tst_Tag::nanAndLimits()
     QCOMPARE(tag->valueToString(), QStringLiteral("nan"));
     // No limits, no verdict.
     QVERIFY(!tag->isValueLimitsOut());
-    tag->setLimits(QVariantList{0, 10.5});
+    tag->setLimits(QVariantList {0, 10.5});
     QVERIFY(tag->isValueLimitsOut()); // NaN is out
     tag->setValue(10.5f);
     QVERIFY(!tag->isValueLimitsOut()); // bounds included
@@ -168,11 +170,11 @@ void tst_Tag::nanAndLimits()
     tag->setValue(std::numeric_limits<float>::infinity());
     QVERIFY(tag->isValueNaN());
     // Three limits count as none.
-    tag->setLimits(QVariantList{0, 1, 2});
+    tag->setLimits(QVariantList {0, 1, 2});
     QVERIFY(!tag->isValueLimitsOut());
-    tag->setLimits(QVariantList{0, 1});
+    tag->setLimits(QVariantList {0, 1});
     tag->setLimits(5, 6);
-    QCOMPARE(tag->limits(), (QVariantList{5, 6}));
+    QCOMPARE(tag->limits(), (QVariantList {5, 6}));
 
     // A NaN is saved as text, and comes back as NaN.
     tag->setValue(std::numeric_limits<float>::quiet_NaN());
@@ -227,7 +229,7 @@ void tst_Tag::replaceTextInValues()
 void tst_Tag::jsonMissingKeys()
 {
     Tag *tag = m_device->addTag(QStringLiteral("t"));
-    tag->setLimits(QVariantList{1, 2});
+    tag->setLimits(QVariantList {1, 2});
     tag->setValues({{"1", "x"}});
     tag->setValue(7.0f);
     tag->load({{"name", "t"}});
@@ -265,13 +267,13 @@ void tst_Tag::jsonRoundTripKeepsEveryKey()
         {"use_bit_extraction_read_only", true},
         {"extract_bit_from", 4},
         {"extract_bit_to", 7},
-        {"config_group", QStringList{"Control", "Управление"}},
+        {"config_group", QStringList {"Control", "Управление"}},
         {"address_offset", 2},
         {"registers_count", 4},
-        {"tags_group", QStringList{"a", "b"}},
+        {"tags_group", QStringList {"a", "b"}},
         {"value", 12},
-        {"limits", QVariantList{0, 100}},
-        {"values", QVariantMap{{"0", "off"}, {"1", "on"}}},
+        {"limits", QVariantList {0, 100}},
+        {"values", QVariantMap {{"0", "off"}, {"1", "on"}}},
         {"modified", true},
     };
     m_device->setByteSwappingEnabled(true);
@@ -281,7 +283,8 @@ void tst_Tag::jsonRoundTripKeepsEveryKey()
     QCOMPARE(saved.keys(), source.keys());
     for (auto it = source.cbegin(); it != source.cend(); ++it)
         QCOMPARE(saved.value(it.key()).toString(), it.value().toString());
-    QCOMPARE(saved.value("config_group").toStringList(), source.value("config_group").toStringList());
+    QCOMPARE(saved.value("config_group").toStringList(),
+             source.value("config_group").toStringList());
     QCOMPARE(saved.value("limits").toList(), source.value("limits").toList());
 }
 
@@ -289,12 +292,14 @@ void tst_Tag::jsonConditionalKeys()
 {
     Tag *tag = m_device->addTag(QStringLiteral("t"));
     QVariantMap saved = tag->save();
-    for (const char *key : {"type", "decimal_point", "byteorder_enabled", "use_bit_extraction",
-                            "extract_bit_from", "address_offset", "tags_group", "values", "array_size"})
+    for (const char *key :
+         {"type", "decimal_point", "byteorder_enabled", "use_bit_extraction", "extract_bit_from",
+          "address_offset", "tags_group", "values", "array_size"})
         QVERIFY2(!saved.contains(key), key);
-    for (const char *key : {"name", "enabled", "polling_period", "address", "priority", "device_type",
-                            "server_type", "read_func", "write_func", "byteorder", "access", "comment",
-                            "request_delay", "config_group", "value", "limits", "modified"})
+    for (const char *key :
+         {"name", "enabled", "polling_period", "address", "priority", "device_type", "server_type",
+          "read_func", "write_func", "byteorder", "access", "comment", "request_delay",
+          "config_group", "value", "limits", "modified"})
         QVERIFY2(saved.contains(key), key);
 
     // A byte array saves its size and no server type, and never reads one.
@@ -335,13 +340,13 @@ void tst_Tag::byteswapFollowsDevice()
 void tst_Tag::wrongTypesFallBack()
 {
     Tag *tag = m_device->addTag(QStringLiteral("t"));
-    tag->load({{"address", QVariantList{1, 2}},
+    tag->load({{"address", QVariantList {1, 2}},
                {"read_func", "three"},
                {"limits", "0..10"},
-               {"values", QVariantList{"a"}},
+               {"values", QVariantList {"a"}},
                {"config_group", 5},
                {"device_type", 17},
-               {"request_delay", QVariantMap{{"x", 1}}}});
+               {"request_delay", QVariantMap {{"x", 1}}}});
     QCOMPARE(tag->address(), 0u);
     QCOMPARE(tag->readFunc(), 0);
     QVERIFY(tag->values().isEmpty());
@@ -356,8 +361,12 @@ void tst_Tag::lengths()
     Tag *a = m_device->addTag(QStringLiteral("a"));
     a->load({{"device_type", "int16"}, {"address", "100h"}, {"access", "ReadWrite"}});
     Tag *b = m_device->addTag(QStringLiteral("b"));
-    b->load({{"type", "separate"}, {"device_type", "float32"}, {"address", "100h"},
-             {"access", "ReadOnly"}, {"address_offset", 2}, {"registers_count", 4}});
+    b->load({{"type", "separate"},
+             {"device_type", "float32"},
+             {"address", "100h"},
+             {"access", "ReadOnly"},
+             {"address_offset", 2},
+             {"registers_count", 4}});
     Tag *c = m_device->addTag(QStringLiteral("c"));
     c->load({{"device_type", "bytearray"}, {"array_size", 6}});
     QCOMPARE(a->deviceTypeLengthToRead(), 2);
@@ -367,7 +376,7 @@ void tst_Tag::lengths()
     // Writing builds the group from every tag at the same address, and counts
     // this tag's width for each writable member.
     QCOMPARE(b->deviceTypeLengthToWrite(), 4);
-    QCOMPARE(b->tagsGroup(), (QStringList{"a", "b"}));
+    QCOMPARE(b->tagsGroup(), (QStringList {"a", "b"}));
     b->setRegistersCount(0);
     QCOMPARE(b->deviceTypeLengthToRead(), 8); // a and b are readable, 4 bytes each
 }

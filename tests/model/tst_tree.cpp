@@ -38,17 +38,19 @@ static QVariantMap buildTree(Server &server)
             device->setFirmwareDate(d == 0 ? QStringLiteral("26.08.2019") : QString());
             for (int t = 0; t < 5; ++t) {
                 Tag *tag = device->addTag(QStringLiteral("tag%1").arg(t));
-                tag->load({{"device_type", t == 4 ? "bytearray" : (t % 2 ? "uint16" : "float32")},
-                           {"array_size", 6},
-                           {"address", QStringLiteral("%1h").arg(t * 2, 3, 16, QLatin1Char('0'))},
-                           {"access", "ReadWrite"},
-                           {"read_func", 3},
-                           {"write_func", 16},
-                           {"limits", QVariantList{0, 100}},
-                           {"values", t == 1 ? QVariantMap{{"0", "нет"}, {"1", "да"}} : QVariantMap()},
-                           {"config_group", t == 0 ? QStringList{"Channel", "ИП 1"}
-                                                   : QStringList{"Control", "Управление"}},
-                           {"value", t % 2 ? QVariant(t) : QVariant(QStringLiteral("%1.25").arg(t))}});
+                tag->load(
+                    {{"device_type", t == 4 ? "bytearray" : (t % 2 ? "uint16" : "float32")},
+                     {"array_size", 6},
+                     {"address", QStringLiteral("%1h").arg(t * 2, 3, 16, QLatin1Char('0'))},
+                     {"access", "ReadWrite"},
+                     {"read_func", 3},
+                     {"write_func", 16},
+                     {"limits", QVariantList {0, 100}},
+                     {"values", t == 1 ? QVariantMap {{"0", "нет"}, {"1", "да"}} : QVariantMap()},
+                     {"config_group",
+                      t == 0 ? QStringList {"Channel", "ИП 1"}
+                             : QStringList {"Control", "Управление"}},
+                     {"value", t % 2 ? QVariant(t) : QVariant(QStringLiteral("%1.25").arg(t))}});
             }
         }
     }
@@ -69,7 +71,7 @@ void tst_Tree::roundTripIsStable()
     QCOMPARE(second.save(), saved);
     // Channels come back as channels.
     Device *device = second.portByName(QStringLiteral("port_1"))->device(QStringLiteral("dev0"));
-    QCOMPARE(device->ChannelNames(), QStringList{"tag0"});
+    QCOMPARE(device->ChannelNames(), QStringList {"tag0"});
 }
 
 void tst_Tree::roundTripThroughJsonText()
@@ -92,18 +94,21 @@ void tst_Tree::emptyOrMissingPortsKeepTree()
     QVERIFY(!server.load({{"ports", QVariantList()}}));
     QVERIFY(!server.load({{"other", 1}}));
     QVERIFY(!server.load({{"ports", QStringLiteral("not a list")}}));
-    QCOMPARE(server.portNames(), QStringList{"keep"});
+    QCOMPARE(server.portNames(), QStringList {"keep"});
     QCOMPARE(loaded.count(), 0);
     // Entries that are not maps give nameless ports, which are skipped.
-    QVERIFY(server.load({{"ports", QVariantList{1, QVariantMap{{"name", "ok"}}}}}));
-    QCOMPARE(server.portNames(), QStringList{"ok"});
+    QVERIFY(server.load({{"ports", QVariantList {1, QVariantMap {{"name", "ok"}}}}}));
+    QCOMPARE(server.portNames(), QStringList {"ok"});
 }
 
 void tst_Tree::portFallbacks()
 {
     Server server;
     Port *port = server.addPort(QStringLiteral("p"));
-    port->load({{"baudrate", 0}, {"parity", "S"}, {"stopbits", 0}, {"databits", 0},
+    port->load({{"baudrate", 0},
+                {"parity", "S"},
+                {"stopbits", 0},
+                {"databits", 0},
                 {"port_type", "modbus_tcp"}});
     QCOMPARE(port->baudrate(), 115200);
     QCOMPARE(port->parity(), QLatin1Char('N'));
@@ -120,9 +125,10 @@ void tst_Tree::portFallbacks()
 
 void tst_Tree::serialNameClash()
 {
-    const QVariantMap map = {
-        {"ports", QVariantList{QVariantMap{{"name", "A"}, {"serial_name", "/dev/ttyUSB0"}},
-                               QVariantMap{{"name", "B"}, {"serial_name", "/dev/ttyUSB0"}}}}};
+    const QVariantMap map
+        = {{"ports",
+            QVariantList {QVariantMap {{"name", "A"}, {"serial_name", "/dev/ttyUSB0"}},
+                          QVariantMap {{"name", "B"}, {"serial_name", "/dev/ttyUSB0"}}}}};
     Server server;
     QVERIFY(server.load(map));
     QCOMPARE(server.portByName(QStringLiteral("A"))->serialName(), QStringLiteral("/dev/ttyUSB0"));
@@ -185,7 +191,7 @@ void tst_Tree::counts()
     Tag *ch = d->addTag(QStringLiteral("ch"));
     ch->setConfigGroup({QStringLiteral("CHANNEL"), QStringLiteral("x")});
     d->addTag(QStringLiteral("other"));
-    QCOMPARE(server.activeTags(), QList<Tag *>{ch});
+    QCOMPARE(server.activeTags(), QList<Tag *> {ch});
     d->setEnabled(false);
     QVERIFY(server.activeTags().isEmpty());
     QCOMPARE(ch->fullName(), QStringLiteral("p/d/ch"));
