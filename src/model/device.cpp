@@ -816,6 +816,30 @@ static QString hexAddress(int addr)
     return QStringLiteral("%1").arg(addr, 2, 16, QLatin1Char('0')).toUpper();
 }
 
+// One entry: several tags of one register block read within the lifetime share one exchange.
+bool Device::readFromCache(int addr, int func, int lengthInBytes, QByteArray &out) const
+{
+    if (!isUseCash() || m_readCache.isEmpty())
+        return false;
+    const QTime stamp = m_readCache.value(QStringLiteral("time")).toTime();
+    if (stamp.msecsTo(QTime::currentTime()) >= m_cashTimeout
+        || m_readCache.value(QStringLiteral("read_func")).toInt() != func
+        || m_readCache.value(QStringLiteral("reg_addr")).toInt() != addr
+        || m_readCache.value(QStringLiteral("length")).toInt() != lengthInBytes)
+        return false;
+    out = m_readCache.value(QStringLiteral("buffer")).toByteArray();
+    return true;
+}
+
+void Device::storeInCache(int addr, int func, int lengthInBytes, const QByteArray &bytes)
+{
+    m_readCache = {{QStringLiteral("time"), QTime::currentTime()},
+                   {QStringLiteral("reg_addr"), addr},
+                   {QStringLiteral("read_func"), func},
+                   {QStringLiteral("length"), lengthInBytes},
+                   {QStringLiteral("buffer"), bytes}};
+}
+
 int Device::read(const QString &name, int addr, int func, int lengthInBytes, QByteArray &out)
 {
     Port *p = port();
@@ -830,14 +854,7 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
         QElapsedTimer timer;
         timer.start();
         sendModbusMessage(QStringLiteral("reading %1 (0x%2h)...").arg(name, hexAddress(addr)));
-        const bool cached = isUseCash() && !m_readCache.isEmpty()
-            && m_readCache.value(QStringLiteral("time")).toTime().msecsTo(QTime::currentTime())
-                < m_cashTimeout
-            && m_readCache.value(QStringLiteral("read_func")).toInt() == func
-            && m_readCache.value(QStringLiteral("reg_addr")).toInt() == addr
-            && m_readCache.value(QStringLiteral("length")).toInt() == lengthInBytes;
-        if (cached) {
-            out = m_readCache.value(QStringLiteral("buffer")).toByteArray();
+        if (readFromCache(addr, func, lengthInBytes, out)) {
             sendModbusMessage(
                 QStringLiteral("%1 (*CASH*): %2")
                     .arg(QTime::currentTime().toString(QStringLiteral("hh:mm:ss.zzz")),
@@ -858,13 +875,8 @@ int Device::read(const QString &name, int addr, int func, int lengthInBytes, QBy
             p->read_registers(label, address(), addr, func, lengthInBytes, out, rx, tx,
                               byteSwappingEnabled());
         m_processingTime = int(timer.elapsed());
-        if (p->lastResult() == ResultGood && isUseCash()) {
-            m_readCache = {{QStringLiteral("time"), QTime::currentTime()},
-                           {QStringLiteral("reg_addr"), addr},
-                           {QStringLiteral("read_func"), func},
-                           {QStringLiteral("length"), lengthInBytes},
-                           {QStringLiteral("buffer"), out}};
-        }
+        if (p->lastResult() == ResultGood && isUseCash())
+            storeInCache(addr, func, lengthInBytes, out);
         state = takeExchangeResult(p, rx, tx);
     }
     return finishExchange(p, state, QStringLiteral("reading"), name);

@@ -220,6 +220,8 @@ private:
     bool openPortForExchange(Port *port);
     void copyLineSettingsFrom(const Port *port);
     void pauseAfterExchange();
+    bool readFromCache(int addr, int func, int lengthInBytes, QByteArray &out) const;
+    void storeInCache(int addr, int func, int lengthInBytes, const QByteArray &bytes);
     int openFailureState(Port *port);
     int takeExchangeResult(Port *port, const QString &rx, const QString &tx);
     int finishExchange(Port *port, int state, const QString &verb, const QString &name);

@@ -5,13 +5,13 @@ FaultInjector::FaultInjector(quint32 seed)
 {
 }
 
-bool FaultInjector::strikes(const FaultSpec &spec, qint64 count)
+bool FaultInjector::strikes(const FaultRule &rule, qint64 count)
 {
-    if (spec.every > 0 && count % spec.every == 0)
+    if (rule.every > 0 && count % rule.every == 0)
         return true;
-    if (spec.rate <= 0.0)
+    if (rule.rate <= 0.0)
         return false;
-    return std::uniform_real_distribution<double>(0.0, 1.0)(m_rng) < spec.rate;
+    return std::uniform_real_distribution<double>(0.0, 1.0)(m_rng) < rule.rate;
 }
 
 void FaultInjector::apply(const FaultSettings &s, int function, Decision &d)

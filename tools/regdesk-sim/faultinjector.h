@@ -35,7 +35,7 @@ public:
     int randomInt(int low, int high);
 
 private:
-    bool strikes(const FaultSpec &spec, qint64 count);
+    bool strikes(const FaultRule &rule, qint64 count);
     void apply(const FaultSettings &settings, int function, Decision &d);
 
     std::mt19937 m_rng;

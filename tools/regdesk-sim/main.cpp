@@ -116,13 +116,13 @@ int main(int argc, char *argv[])
             return fail(error);
     } else if (parser.isSet(templateOpt)) {
         QVariantList instruments;
-        for (const QString &spec : parser.values(templateOpt)) {
-            const int colon = spec.indexOf(QLatin1Char(':'));
+        for (const QString &entry : parser.values(templateOpt)) {
+            const int colon = entry.indexOf(QLatin1Char(':'));
             if (colon < 1)
                 return fail(
-                    QStringLiteral("--template wants address:template, not '%1'").arg(spec));
-            instruments << QVariantMap {{QStringLiteral("address"), spec.left(colon).toInt()},
-                                        {QStringLiteral("template"), spec.mid(colon + 1)}};
+                    QStringLiteral("--template wants address:template, not '%1'").arg(entry));
+            instruments << QVariantMap {{QStringLiteral("address"), entry.left(colon).toInt()},
+                                        {QStringLiteral("template"), entry.mid(colon + 1)}};
         }
         if (!Scenario::fromMap({{QStringLiteral("instruments"), instruments}}, QDir::currentPath(),
                                scenario, error))

@@ -11,25 +11,25 @@ namespace {
 
 const char builtinDir[] = ":/templates";
 
-FaultSpec faultSpec(const QVariant &v)
+FaultRule faultRule(const QVariant &v)
 {
-    FaultSpec spec;
+    FaultRule rule;
     if (v.typeId() == QMetaType::QVariantMap) {
         const QVariantMap m = v.toMap();
-        spec.rate = m.value(QStringLiteral("rate"), 0.0).toDouble();
-        spec.every = m.value(QStringLiteral("every"), 0).toInt();
+        rule.rate = m.value(QStringLiteral("rate"), 0.0).toDouble();
+        rule.every = m.value(QStringLiteral("every"), 0).toInt();
     } else if (v.isValid()) {
-        spec.rate = v.toDouble();
+        rule.rate = v.toDouble();
     }
-    spec.rate = qBound(0.0, spec.rate, 1.0);
-    spec.every = qMax(0, spec.every);
-    return spec;
+    rule.rate = qBound(0.0, rule.rate, 1.0);
+    rule.every = qMax(0, rule.every);
+    return rule;
 }
 
 FaultSettings faultSettings(const QVariantMap &m)
 {
     FaultSettings f;
-    f.busy = faultSpec(m.value(QStringLiteral("busy")));
+    f.busy = faultRule(m.value(QStringLiteral("busy")));
     if (m.value(QStringLiteral("busy")).typeId() == QMetaType::QVariantMap) {
         const QVariantList codes
             = m.value(QStringLiteral("busy")).toMap().value(QStringLiteral("codes")).toList();
@@ -39,11 +39,11 @@ FaultSettings faultSettings(const QVariantMap &m)
                 f.busyCodes << c.toInt();
         }
     }
-    f.badChecksum = faultSpec(m.value(QStringLiteral("bad_crc")));
-    f.silence = faultSpec(m.value(QStringLiteral("silence")));
-    f.garbage = faultSpec(m.value(QStringLiteral("garbage")));
-    f.wrongAddress = faultSpec(m.value(QStringLiteral("wrong_address")));
-    f.truncated = faultSpec(m.value(QStringLiteral("truncated")));
+    f.badChecksum = faultRule(m.value(QStringLiteral("bad_crc")));
+    f.silence = faultRule(m.value(QStringLiteral("silence")));
+    f.garbage = faultRule(m.value(QStringLiteral("garbage")));
+    f.wrongAddress = faultRule(m.value(QStringLiteral("wrong_address")));
+    f.truncated = faultRule(m.value(QStringLiteral("truncated")));
     for (const QVariant &fn : m.value(QStringLiteral("functions")).toList())
         f.functions << fn.toInt();
     return f;

@@ -13,7 +13,7 @@
 
 // A fault that strikes a reply at random with the given rate (0..1), or
 // every n-th request when "every" is above 0.
-struct FaultSpec
+struct FaultRule
 {
     double rate = 0.0;
     int every = 0;
@@ -22,13 +22,13 @@ struct FaultSpec
 
 struct FaultSettings
 {
-    FaultSpec busy; // exception with one of busyCodes
+    FaultRule busy; // exception with one of busyCodes
     QList<int> busyCodes {4, 5, 6};
-    FaultSpec badChecksum; // CRC (RTU) or LRC (ASCII) damaged
-    FaultSpec silence; // no reply at all
-    FaultSpec garbage; // random bytes before the reply
-    FaultSpec wrongAddress; // reply under another slave address
-    FaultSpec truncated; // reply cut short
+    FaultRule badChecksum; // CRC (RTU) or LRC (ASCII) damaged
+    FaultRule silence; // no reply at all
+    FaultRule garbage; // random bytes before the reply
+    FaultRule wrongAddress; // reply under another slave address
+    FaultRule truncated; // reply cut short
     QList<int> functions; // function codes the faults apply to; empty: all
     bool active() const;
 };
